@@ -1,0 +1,14 @@
+/// @file KxMFCWrapper.h
+/// @brief Includes every public header of the library.
+#pragma once
+
+#include "KxApplication.h"
+#include "KxDialogs.h"
+#include "KxDrawing.h"
+#include "KxMessages.h"
+#include "KxRegistry.h"
+#include "KxString.h"
+#include "KxUser32.h"
+#include "KxWinTypes.h"
+#include "KxWindowPrivate.h"
+#include "KxWindows.h"

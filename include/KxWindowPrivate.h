@@ -1,0 +1,49 @@
+/// @file KxWindowPrivate.h
+/// @brief Private data of window objects, for authors of CWnd subclasses that add to it.
+#pragma once
+
+#include "KxWinTypes.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <map>
+
+class CDC;
+class CWnd;
+
+/// A control as its window registered it: the handle, and whether the widget behind it still lives.
+struct CWndChild
+{
+    HWND m_hWnd = nullptr;
+    QPointer<QWidget> m_pWidget;
+};
+
+/// Private data of a CWnd, owned by it.
+struct KX_MFC_EXPORT CWndPrivate
+{
+    CWndPrivate() = default;
+    CWndPrivate(const CWndPrivate &) = delete;
+    CWndPrivate &operator=(const CWndPrivate &) = delete;
+    virtual ~CWndPrivate();
+
+    /// @return the private data of @p window, which must not be a null object.
+    static CWndPrivate *of(const CWnd *window);
+
+    QPointer<QWidget> m_pWidget;            ///< The bound widget; null while the window is unbound.
+    CWnd *q_ptr = nullptr;                  ///< The window object.
+    CWnd *m_pParentWnd = nullptr;           ///< Logical parent, not owned.
+    CDC *m_pDC = nullptr;                   ///< Device context, owned.
+    bool m_bPermanent = true;               ///< false: a wrapper, which the library deletes.
+    bool m_bKeepWidget = true;              ///< false: the destructor of the window deletes the widget.
+    std::map<int, CWndChild> m_mapChildren; ///< Registered controls by their identifiers.
+    int m_nCtrlID = -1;                     ///< The window's own control identifier.
+    /// The widget behind the handle for as long as Qt keeps it, also when the window was unbound.
+    QPointer<QWidget> m_pHandleWidget;
+};
+
+/// Private data of a CDialog.
+struct KX_MFC_EXPORT CDialogPrivate : CWndPrivate
+{
+    int m_nReserved = 1; ///< Read by no operation.
+};

@@ -1,0 +1,3 @@
+#include "KxWinTypes.h"
+
+CObject::~CObject() = default;

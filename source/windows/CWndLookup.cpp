@@ -1,0 +1,141 @@
+#include "KxGuard.h"
+
+CWnd *CWnd::FromHandle(HWND h)
+{
+    const auto entry = CWndHandleTable.find(h);
+    return h && entry != CWndHandleTable.end() ? entry->second : nullptr;
+}
+
+CWnd *CWnd::FromHandlePermanent(HWND h)
+{
+    return FromHandle(h);
+}
+
+CWnd::operator HWND() const
+{
+    return boundWidget(this) ? m_hWnd : withoutWidget<HWND>(this);
+}
+
+HWND CWnd::GetSafeHwnd()
+{
+    // No bound test: ported code still asks a detached window for the handle it had.
+    return isNullObject(this) ? withoutWidget<HWND>(this) : m_hWnd;
+}
+
+CWnd *CWnd::GetParent() const
+{
+    return boundWidget(this) ? d_ptr->m_pParentWnd : withoutWidget<CWnd *>(this);
+}
+
+CWnd *CWnd::SetParent(CWnd *pWndNewParent)
+{
+    if (!boundWidget(this))
+        return withoutWidget<CWnd *>(this);
+    CWnd *former = d_ptr->m_pParentWnd;
+    d_ptr->m_pParentWnd = pWndNewParent;
+    return former;
+}
+
+void CWnd::SetCtrlID(int nID)
+{
+    if (boundWidget(this))
+        d_ptr->m_nCtrlID = nID;
+}
+
+int CWnd::GetDlgCtrlID() const
+{
+    return boundWidget(this) ? d_ptr->m_nCtrlID : withoutWidget<int>(this);
+}
+
+BOOL CWnd::SetDlgItem(int nID, HWND h)
+{
+    if (!boundWidget(this))
+        return withoutWidget<BOOL>(this);
+    CWndChild &child = d_ptr->m_mapChildren.try_emplace(nID, CWndChild{h, nullptr}).first->second;
+    if (child.m_hWnd == h)
+        child.m_pWidget = asWidget(h);
+    return TRUE;
+}
+
+static bool isDestroyed(const CWndChild &child)
+{
+    return child.m_hWnd && !child.m_pWidget;
+}
+
+CWnd *CWnd::GetDlgItem(int nID) const
+{
+    // Chained calls on an unknown control do nothing on this object.
+    static CWnd sNullWnd;
+
+    if (!boundWidget(this))
+        return withoutWidget<CWnd *>(this);
+    const auto child = d_ptr->m_mapChildren.find(nID);
+    if (child == d_ptr->m_mapChildren.end() || !child->second.m_hWnd)
+        return &sNullWnd;
+
+    CWnd *item = FromHandle(child->second.m_hWnd);
+    if (!item && isDestroyed(child->second))
+        return &sNullWnd;
+    if (!item)
+        item = CreateCWndByHandle(child->second.m_hWnd);
+    item->SetParent(const_cast<CWnd *>(this));
+    item->SetCtrlID(nID);
+    return item;
+}
+
+void CWnd::GetDlgItem(int nID, HWND *) const
+{
+    // The caller's handle keeps its value; ported code counts on the binding alone.
+    GetDlgItem(nID);
+}
+
+CWnd *CWnd::GetNextCWndFromID(int nID) const
+{
+    if (!boundWidget(this))
+        return withoutWidget<CWnd *>(this);
+    const auto next = d_ptr->m_mapChildren.upper_bound(nID);
+    return next == d_ptr->m_mapChildren.end() ? nullptr : GetDlgItem(next->first);
+}
+
+CWnd *CWnd::GetNextWindow(UINT nFlag) const
+{
+    if (!boundWidget(this))
+        return withoutWidget<CWnd *>(this);
+    if (nFlag != GW_HWNDNEXT || isNullObject(d_ptr->m_pParentWnd))
+        return nullptr;
+    return d_ptr->m_pParentWnd->GetNextCWndFromID(GetDlgCtrlID());
+}
+
+CWnd *CWnd::GetWindow(UINT nCmd) const
+{
+    if (!boundWidget(this))
+        return withoutWidget<CWnd *>(this);
+    if (nCmd != GW_CHILD || d_ptr->m_mapChildren.empty())
+        return nullptr;
+    return GetDlgItem(d_ptr->m_mapChildren.begin()->first);
+}
+
+CWnd *CWnd::GetDescendantWindow(int nID, BOOL) const
+{
+    return GetDlgItem(nID);
+}
+
+BOOL CWnd::SubclassDlgItem(UINT nID, CWnd *pParent)
+{
+    if (isNullObject(this))
+        return withoutWidget<BOOL>(this);
+    if (isNullObject(pParent))
+        return FALSE;
+    if (m_hWnd)
+        return TRUE;
+    // The parent's own binding does not matter: its controls stay registered when it is detached.
+    const auto &children = pParent->d_ptr->m_mapChildren;
+    const auto child = children.find(static_cast<int>(nID));
+    if (child == children.end() || isDestroyed(child->second))
+        return FALSE;
+    SetHandle(child->second.m_hWnd);
+    SetParent(pParent);
+    SetCtrlID(static_cast<int>(nID));
+    PreSubclassWindow();
+    return TRUE;
+}
