@@ -31,28 +31,27 @@ public:
     /// The first @p *count bytes (not elements) of @p buffer are cleared, then at most @p *count - 1 elements
     /// are written, filled up with nulls. A text of @p *count - 1 elements or more is therefore not
     /// terminated by this function. @p *count is not updated, unlike in ATL.
-    /// @param buffer  receives the text; owned by the caller.
-    /// @param count   elements of @p buffer.
+    /// @param buffer receives the text; owned by the caller.
+    /// @param count elements of @p buffer.
     /// @return 0; -1 when the text has more than @p *count UTF-16 units. Then the key's group stays open, so
-    /// that the
-    ///         next call's group nests inside it. -1 with no effect when @p buffer or @p count is null.
+    /// that the next call's group nests inside it. -1 with no effect when @p buffer or @p count is null.
     LONG QueryValue(wchar_t *buffer, const wchar_t *valueName, unsigned *count);
 
     /// Sets the key's path, with backslashes between its groups. The other arguments are ignored.
     ///
     /// Only the characters of @p keyName are written: on an object that had a longer path, the tail of that
     /// path stays.
-    /// @param keyName  at most 2048 elements.
+    /// @param keyName at most 2048 elements.
     /// @return 0; -1 with no effect when @p keyName is null or longer.
     LONG Create(HKEY parent, const wchar_t *keyName, wchar_t *className = nullptr, unsigned options = 0,
                 unsigned access = KEY_READ | KEY_WRITE, SECURITY_ATTRIBUTES *security = nullptr,
                 unsigned *disposition = nullptr);
 
     /// Writes a text value.
-    /// @param value      the text; null counts as empty.
-    /// @param valueName  the name within the key. Nothing is written when it is null or empty.
-    /// @param multi      ignored.
-    /// @param length     ignored: the text ends at its null.
+    /// @param value the text; null counts as empty.
+    /// @param valueName the name within the key. Nothing is written when it is null or empty.
+    /// @param multi ignored.
+    /// @param length ignored: the text ends at its null.
     /// @return 0.
     LONG SetValue(const wchar_t *value, const wchar_t *valueName, bool multi = false, int length = -1);
 

@@ -1,9 +1,8 @@
 /// @file KxString.h
 /// @brief CString, the wide string of every interface of the library.
 ///
-/// A wchar_t has 32 bits here, so a CString holds one Unicode code point per element (UTF-32).
-/// Nothing in this header crashes on a null text: it counts as the empty text unless a function says
-/// otherwise.
+/// A wchar_t has 32 bits here, so a CString holds one Unicode code point per element (UTF-32). Nothing in
+/// this header crashes on a null text: it counts as the empty text unless a function says otherwise.
 #pragma once
 
 #include "KxStringFunctions.h"
@@ -163,8 +162,7 @@ public:
 
     /// Makes room for @p n elements; new elements are null. Never shrinks the string, unlike ReleaseBuffer().
     /// @return the first element, writable, also when the string is empty; owned by the string and valid
-    /// until it is
-    ///         next changed.
+    /// until it is next changed.
     CT *GetBuffer(int n);
     /// The same as GetBuffer().
     CT *GetBuf(int n) { return GetBuffer(n); }
@@ -191,7 +189,7 @@ public:
     /// @return true when a string was loaded; false, with an empty string, when there is none.
     bool LoadStringW(unsigned id);
     /// Loads string @p id of a module, cut at 1023 elements.
-    /// @param hinst  the module; null for the one set with AfxSetResourceHandle().
+    /// @param hinst the module; null for the one set with AfxSetResourceHandle().
     /// @return true when a string was loaded; false, with an empty string, when there is none.
     bool LoadStringW(HINSTANCE hinst, unsigned id);
     /// @}
@@ -213,7 +211,8 @@ template <typename CT> inline CStdStr<CT> operator+(const CStdStr<CT> &left, CT 
     CStdStr<CT> result;
     result.reserve(left.size() + 1);
     result += left;
-    return result += right;
+    result += right;
+    return result;
 }
 
 /// @return a copy of @p left with @p right appended.
@@ -222,7 +221,8 @@ template <typename CT> inline CStdStr<CT> operator+(const CStdStr<CT> &left, con
     CStdStr<CT> result;
     result.reserve(left.size() + right.size());
     result += left;
-    return result += right;
+    result += right;
+    return result;
 }
 
 /// @return a copy of @p left with @p right appended; a null pointer appends nothing.
@@ -231,7 +231,8 @@ template <typename CT> inline CStdStr<CT> operator+(const CStdStr<CT> &left, con
     CStdStr<CT> result;
     result.reserve(left.size() + static_cast<std::size_t>(sslen(right)));
     result += left;
-    return result += right;
+    result += right;
+    return result;
 }
 
 /// @return @p left with @p right appended; a null pointer counts as empty.
@@ -240,7 +241,8 @@ template <typename CT> inline CStdStr<CT> operator+(const CT *left, const CStdSt
     CStdStr<CT> result;
     result.reserve(static_cast<std::size_t>(sslen(left)) + right.size());
     result += left;
-    return result += right;
+    result += right;
+    return result;
 }
 
 /// @return @p left, whose characters are reused, with one element appended.

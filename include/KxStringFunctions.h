@@ -71,8 +71,7 @@ template <typename CT> struct NotSpace
 /// Compares two texts without regard to case, by the rules of the classic "C" locale whatever the global
 /// locale is.
 /// @return the lower-cased element of @p left minus that of @p right where the texts first differ; 0 when
-/// they are equal.
-///         A text that begins the other one is the smaller.
+/// they are equal. A text that begins the other one is the smaller.
 template <typename CT> int ssicmp(const CT *left, const CT *right)
 {
     const CT nothing{};
@@ -92,16 +91,16 @@ template <typename CT> int ssicmp(const CT *left, const CT *right)
 /// @{
 
 /// The C library's vswprintf().
-/// @param count  elements of @p buffer, the terminator included.
+/// @param count elements of @p buffer, the terminator included.
 /// @return the number of elements written without the terminator; negative when the output does not fit or an
-///         argument cannot be converted.
+/// argument cannot be converted.
 KX_MFC_EXPORT int ssvsprintf(wchar_t *buffer, std::size_t count, const wchar_t *format, va_list args);
 
 /// Converts narrow text with the std::codecvt facet of @p locale and terminates the result where conversion
 /// stopped. Bytes that the locale cannot convert end the text; no error is reported.
-/// @param dst     receives the text: room for @p dstLen elements and a terminator.
-/// @param dstLen  elements that may be written before the terminator.
-/// @param srcLen  bytes to convert.
+/// @param dst receives the text: room for @p dstLen elements and a terminator.
+/// @param dstLen elements that may be written before the terminator.
+/// @param srcLen bytes to convert.
 /// @return @p dst.
 KX_MFC_EXPORT wchar_t *StdCodeCvt(wchar_t *dst, int dstLen, const char *src, int srcLen,
                                   const std::locale &locale);
@@ -134,8 +133,8 @@ template <typename CT> void ssasn(std::basic_string<CT> &dst, const CT *src)
         dst.assign(src);
 }
 
-/// Assigns narrow text, converted with the global locale's std::codecvt facet.
-/// Text that the locale cannot convert ends there. A null pointer empties @p dst.
+/// Assigns narrow text, converted with the global locale's std::codecvt facet. Text that the locale cannot
+/// convert ends there. A null pointer empties @p dst.
 template <typename CT> void ssasn(std::basic_string<CT> &dst, const char *src)
 {
     const int count = sslen(src);

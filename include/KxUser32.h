@@ -55,8 +55,8 @@ KX_MFC_EXPORT BOOL EnableWindow(HWND hWnd, bool bEnable);
 /// QAbstractButton, "ComboBox" for a QComboBox, "Static" for a QLabel, and the empty text for every other
 /// one.
 /// @param hWnd taken as the widget itself; null counts as another one.
-/// @param lpClassName receives at most @p nMaxCount - 1 characters, always ended by a null at @p nMaxCount
-/// - 1.
+/// @param lpClassName receives at most @p nMaxCount - 1 characters, always ended by a null at @p nMaxCount -
+/// 1.
 /// @return the length of what is in the buffer now; 0 with nothing written when @p nMaxCount is below 1.
 KX_MFC_EXPORT int GetClassNameW(HWND hWnd, wchar_t *lpClassName, int nMaxCount);
 /// @}

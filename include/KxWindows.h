@@ -31,8 +31,7 @@ extern KX_MFC_EXPORT QList<CWnd *> CWndList;
 /// Makes a library-owned window object (a wrapper) bound to @p h.
 ///
 /// The wrapper is deleted by the library when another object binds @p h, or when the window whose child map
-/// lists
-/// @p h is destroyed; otherwise it lives until the process exits. A null @p h gives an unbound wrapper.
+/// lists @p h is destroyed; otherwise it lives until the process exits. A null @p h gives an unbound wrapper.
 /// @return the wrapper; the caller does not own it.
 KX_MFC_EXPORT CWnd *CreateCWndByHandle(HWND h);
 
@@ -103,13 +102,6 @@ public:
     /// @return TRUE when the child was found, and at once when this object has a handle already; FALSE when
     /// @p pParent is null or has no such child.
     BOOL SubclassDlgItem(UINT nID, CWnd *pParent);
-
-    /// Takes note of a logical parent; creates no widget, unlike MFC.
-    /// @param pParent the new logical parent, recorded when this object is bound; every other argument is
-    /// ignored.
-    /// @return TRUE, bound or not.
-    virtual BOOL Create(const wchar_t *lpszClassName, const wchar_t *lpszWindowName, DWORD dwStyle,
-                        const RECT &rect, CWnd *pParent, UINT nID, CCreateContext *pContext = nullptr);
     /// @}
 
     /// @name Lookup
@@ -122,8 +114,6 @@ public:
 
     /// @return the handle while this object is bound, else null.
     operator HWND() const;
-    /// @return #m_hWnd as it is stored, also after Detach(); null for a null object.
-    virtual HWND GetSafeHwnd();
 
     /// @return the logical parent; unbound: null.
     CWnd *GetParent() const;
@@ -167,22 +157,6 @@ public:
     /// @name Window text
     /// @{
 
-    /// Sets the text that the kind of widget shows, tried in this order: QLineEdit text, QDoubleSpinBox and
-    /// QSpinBox value (the text as a number, 0 when it is none, with the widget's signals blocked), QLabel
-    /// text, QGroupBox title, QAbstractButton text, QComboBox edit text, QTextEdit text, else the window
-    /// title.
-    /// @param lpszString the text; null: nothing happens. Unbound: nothing.
-    virtual void SetWindowTextW(const wchar_t *lpszString);
-    /// Reads the text that the kind of widget shows, tried in this order: QLineEdit text, displayed text of a
-    /// spin box with its prefix and suffix, QLabel text, QGroupBox title, QAbstractButton text, edit text of
-    /// an editable QComboBox or current text of another, plain text of a QTextEdit, else the window title.
-    /// @param rString receives the text; unbound: left as it was.
-    virtual void GetWindowTextW(CString &rString);
-    /// Reads the text into a buffer: at most @p nMaxCount - 1 characters, always ended by a null at
-    /// @p nMaxCount - 1, with nulls between the text's end and there.
-    /// @param nMaxCount size of @p lpszBuffer in characters; below 1: nothing is written.
-    /// @return the length of what is in the buffer now; 0 when nothing was written; unbound: 0.
-    virtual int GetWindowTextW(wchar_t *lpszBuffer, int nMaxCount);
     /// @return length in characters of the text that GetWindowTextW() reads; unbound: 0.
     int GetWindowTextLengthW();
     /// Reads a control's text. @p rString is left as it was when the identifier is unknown.
@@ -198,9 +172,6 @@ public:
 
     /// Gives the window's position on the screen with the size of its frame; see the free GetWindowRect().
     void GetWindowRect(RECT *lpRect) const;
-    /// Gives the widget's inside: left and top 0, right width - 1, bottom height - 1. Unbound: nothing is
-    /// written.
-    virtual void GetClientRect(RECT *lpRect);
     /// Maps a point from the widget to the screen, in pixels.
     void ClientToScreen(POINT *lpPoint) const;
     /// Moves the widget to (x, y) in its parent's coordinates, in pixels. The size is not changed, unlike
@@ -225,9 +196,6 @@ public:
     /// Enables or disables the widget.
     /// @return whether the widget was enabled before, the opposite of Win32; unbound: TRUE.
     BOOL EnableWindow(BOOL bEnable = TRUE);
-    /// Gives the widget the keyboard focus.
-    /// @return the object registered for the widget that had the focus, or null; unbound: null.
-    virtual CWnd *SetFocus();
     /// @return the object registered for the widget that has the focus, or null.
     static CWnd *GetFocus();
     /// @}
@@ -251,8 +219,6 @@ public:
     /// @return this window's one device context, made on the first call and owned by the window; unbound:
     /// null.
     CDC *GetDC();
-    /// @return the device of the context that GetDC() made; null when it made none or the window is unbound.
-    virtual HDC GetSafeHdc();
     /// @}
 
     /// @name Check and radio buttons of a dialog
@@ -284,20 +250,63 @@ public:
     int MessageBoxW(const wchar_t *lpszText, const wchar_t *lpszCaption = nullptr, UINT nType = MB_OK);
     /// @}
 
-    /// @name Overridables
+    /// @name Virtual operations
+    /// In the order of their table, which is part of the binary interface.
     /// @{
 
+    /// Takes note of a logical parent; creates no widget, unlike MFC.
+    /// @param pParent the new logical parent, recorded when this object is bound; every other argument is
+    /// ignored.
+    /// @return TRUE, bound or not.
+    virtual BOOL Create(const wchar_t *lpszClassName, const wchar_t *lpszWindowName, DWORD dwStyle,
+                        const RECT &rect, CWnd *pParent, UINT nID, CCreateContext *pContext = nullptr);
+    /// Fixed result: null.
+    virtual CWnd *GetCapture();
+    /// Fixed result: null.
+    virtual CWnd *SetCapture();
+    /// @return #m_hWnd as it is stored, also after Detach(); null for a null object.
+    virtual HWND GetSafeHwnd();
+    /// @return the device of the context that GetDC() made; null when it made none or the window is unbound.
+    virtual HDC GetSafeHdc();
+    /// Gives the widget's inside: left and top 0, right width - 1, bottom height - 1. Unbound: nothing is
+    /// written.
+    virtual void GetClientRect(RECT *lpRect);
     /// Called by SubclassDlgItem() after binding. Does nothing.
     virtual void PreSubclassWindow();
     /// Called by UpdateData(). Does nothing.
     virtual void DoDataExchange(CDataExchange *pDX);
     /// Called by no message loop. @return TRUE.
     virtual BOOL PreTranslateMessage(MSG *pMsg);
+    /// Sets the text that the kind of widget shows, tried in this order: QLineEdit text, QDoubleSpinBox and
+    /// QSpinBox value (the text as a number, 0 when it is none, with the widget's signals blocked), QLabel
+    /// text, QGroupBox title, QAbstractButton text, QComboBox edit text, QTextEdit text, else the window
+    /// title.
+    /// @param lpszString the text; null: nothing happens. Unbound: nothing.
+    virtual void SetWindowTextW(const wchar_t *lpszString);
+    /// Reads the text that the kind of widget shows, tried in this order: QLineEdit text, displayed text of a
+    /// spin box with its prefix and suffix, QLabel text, QGroupBox title, QAbstractButton text, edit text of
+    /// an editable QComboBox or current text of another, plain text of a QTextEdit, else the window title.
+    /// @param rString receives the text; unbound: left as it was.
+    virtual void GetWindowTextW(CString &rString);
+    /// Reads the text into a buffer: at most @p nMaxCount - 1 characters, always ended by a null at @p
+    /// nMaxCount - 1, with nulls between the text's end and there.
+    /// @param nMaxCount size of @p lpszBuffer in characters; below 1: nothing is written.
+    /// @return the length of what is in the buffer now; 0 when nothing was written; unbound: 0.
+    virtual int GetWindowTextW(wchar_t *lpszBuffer, int nMaxCount);
+    /// Fixed result: null.
+    virtual CMenu *GetMenu();
+    /// Fixed result: TRUE.
+    virtual BOOL SetMenu(CMenu *pMenu);
     /// @return TRUE.
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     /// Receives SendMessageW() of this object, and the seven application messages that the free
     /// SendMessageW() routes to objects. @return 0.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Fixed result: 0.
+    virtual BOOL SetForegroundWindow();
+    /// Gives the widget the keyboard focus.
+    /// @return the object registered for the widget that had the focus, or null; unbound: null.
+    virtual CWnd *SetFocus();
     /// @}
 
     /// @name Fixed results
@@ -316,9 +325,6 @@ public:
     void MoveWindow(const RECT *lpRect, BOOL bRepaint = TRUE);        ///< Nothing.
     void CenterWindow(CWnd *pAlternateOwner = nullptr);               ///< Nothing.
     void BringWindowToTop();                                          ///< Nothing.
-    virtual BOOL SetForegroundWindow();                               ///< 0.
-    virtual CWnd *GetCapture();                                       ///< Null.
-    virtual CWnd *SetCapture();                                       ///< Null.
     BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0); ///< TRUE.
     DWORD GetStyle() const;                                           ///< 0.
     void UpdateWindow();                                              ///< Nothing.
@@ -334,8 +340,6 @@ public:
     HICON SetIcon(HICON hIcon, BOOL bBigIcon);        ///< Null.
     HICON GetIcon(BOOL bBigIcon) const;               ///< Null.
     BOOL EnableToolTips(BOOL bEnable = TRUE);         ///< TRUE.
-    virtual CMenu *GetMenu();                         ///< Null.
-    virtual BOOL SetMenu(CMenu *pMenu);               ///< TRUE.
     BOOL IsKindOf(const CRuntimeClass *pClass) const; ///< TRUE.
     void BeginWaitCursor();                           ///< Nothing.
     void EndWaitCursor();                             ///< Nothing.

@@ -1,6 +1,7 @@
 #include "KxRegistry.h"
 
 #include "foundation/QtConversions.h"
+#include "foundation/SettingsStore.h"
 
 #include <QSettings>
 
@@ -26,8 +27,7 @@ bool isUsableName(const QString &name)
 } // namespace
 
 CRegKey::CRegKey()
-    : m_settings(std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
-                                             QStringLiteral("Orvane"), QStringLiteral("Velmo")))
+    : m_settings(openSettingsStore())
     , m_path(std::make_unique<wchar_t[]>(maxPathLength + 1))
 {
 }
@@ -62,7 +62,7 @@ LONG CRegKey::Create(HKEY, const wchar_t *keyName, wchar_t *, unsigned, unsigned
         return -1;
 
     // No terminator is written: the tail of a longer former path stays.
-    std::wcsncpy(m_path.get(), keyName, length);
+    std::copy_n(keyName, length, m_path.get());
     return 0;
 }
 

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cwchar>
 #include <memory>
+#include <typeinfo>
 
 namespace {
 
@@ -28,6 +29,13 @@ std::size_t formatted(wchar_t *buffer, std::size_t size, const wchar_t *format, 
     }
     va_end(again);
     return std::wcslen(buffer);
+}
+
+// A facet of the application's own may override the one-element conversions alone, which are the ones that
+// ported code gets. The standard facet converts a whole text alike, and faster.
+bool convertsRangesAlike(const std::ctype<wchar_t> &ctype)
+{
+    return typeid(ctype) == typeid(std::ctype<wchar_t>);
 }
 
 } // namespace
@@ -100,6 +108,10 @@ template <typename CT> CStdStr<CT> &CStdStr<CT>::MakeLower()
 template <typename CT> CStdStr<CT> &CStdStr<CT>::toUpper(const std::locale &locale)
 {
     const auto &ctype = std::use_facet<std::ctype<CT>>(locale);
+    if (convertsRangesAlike(ctype)) {
+        ctype.toupper(this->data(), this->data() + this->size());
+        return *this;
+    }
     for (CT &ch : *this)
         ch = ctype.toupper(ch);
     return *this;
@@ -108,6 +120,10 @@ template <typename CT> CStdStr<CT> &CStdStr<CT>::toUpper(const std::locale &loca
 template <typename CT> CStdStr<CT> &CStdStr<CT>::ToLower(const std::locale &locale)
 {
     const auto &ctype = std::use_facet<std::ctype<CT>>(locale);
+    if (convertsRangesAlike(ctype)) {
+        ctype.tolower(this->data(), this->data() + this->size());
+        return *this;
+    }
     for (CT &ch : *this)
         ch = ctype.tolower(ch);
     return *this;
