@@ -15,24 +15,22 @@
 
 /// Copies the string resource @p id of a module into a buffer. There are no string resources yet: every
 /// identifier is unknown.
-/// @param module     a module, or null for the program itself.
-/// @param id         the string's identifier.
-/// @param buffer     receives the text, cut to @p bufferMax - 1 characters and terminated.
-/// @param bufferMax  room in @p buffer, in characters.
+/// @param module a module, or null for the program itself.
+/// @param id the string's identifier.
+/// @param buffer receives the text, cut to @p bufferMax - 1 characters and terminated.
+/// @param bufferMax room in @p buffer, in characters.
 /// @return the number of characters copied, without the terminator; 0 and an empty @p buffer when there is no
-/// such
-///         string; 0 with nothing written when @p buffer is null or @p bufferMax is below 1. Unlike Win32, a
-///         @p bufferMax of 0 does not ask for the resource's address.
+/// such string; 0 with nothing written when @p buffer is null or @p bufferMax is below 1. Unlike Win32, no
+/// room does not ask for the resource's address.
 KX_PLATFORM_EXPORT int LoadStringW(HINSTANCE module, UINT id, wchar_t *buffer, int bufferMax);
 
 /// Loads a bitmap resource. There are no bitmap resources yet.
-/// @param module  a module, or null for the program itself.
-/// @param name    the resource's name, or its 16-bit identifier in place of an address; never dereferenced
-/// then.
-/// @param type    kind of image; 0 is a bitmap.
-/// @param cx      wanted width in pixels; 0 keeps that of the resource.
-/// @param cy      wanted height in pixels; 0 keeps that of the resource.
-/// @param flags   load flags.
+/// @param module a module, or null for the program itself.
+/// @param name the resource's name, or its 16-bit identifier in place of an address; never dereferenced then.
+/// @param type kind of image; 0 is a bitmap.
+/// @param cx wanted width in pixels; 0 keeps that of the resource.
+/// @param cy wanted height in pixels; 0 keeps that of the resource.
+/// @param flags load flags.
 /// @return the handle of an image, owned by the caller; null when there is no such resource.
 KX_PLATFORM_EXPORT HANDLE LoadImageW(HINSTANCE module, const wchar_t *name, UINT type, int cx, int cy,
                                      UINT flags);
@@ -45,8 +43,8 @@ KX_PLATFORM_EXPORT HANDLE LoadImageW(HINSTANCE module, const wchar_t *name, UINT
 KX_PLATFORM_EXPORT HINSTANCE LoadLibraryW(const wchar_t *name);
 
 /// Releases one use of a module.
-/// @param module  what LoadLibraryW() gave, not yet released; anything else but null is undefined.
-/// @return nonzero on success; FALSE when @p module is null or the loader refuses.
+/// @param module what LoadLibraryW() gave, not yet released; anything else is refused.
+/// @return nonzero on success; FALSE otherwise.
 KX_PLATFORM_EXPORT BOOL FreeLibrary(HINSTANCE module);
 /// @}
 
@@ -57,12 +55,11 @@ KX_PLATFORM_EXPORT BOOL FreeLibrary(HINSTANCE module);
 ///
 /// The handle is the stream (`FILE *`), so that it can be read with the C library or given to CFile(handle).
 /// Sharing modes, security attributes, flags and the template are ignored.
-/// @param name         the file; directories are refused.
-/// @param access       GENERIC_READ, GENERIC_WRITE or both; others are refused.
-/// @param disposition  CREATE_NEW fails when the file exists; CREATE_ALWAYS creates or empties it;
-/// OPEN_EXISTING fails
-///                     when it does not exist; OPEN_ALWAYS creates it when needed; TRUNCATE_EXISTING empties
-///                     it, fails when it does not exist and needs GENERIC_WRITE. Others are refused.
+/// @param name the file; directories are refused.
+/// @param access GENERIC_READ, GENERIC_WRITE or both; others are refused.
+/// @param disposition CREATE_NEW fails when the file exists; CREATE_ALWAYS creates or empties it;
+/// OPEN_EXISTING fails when it does not exist; OPEN_ALWAYS creates it when needed; TRUNCATE_EXISTING empties
+/// it, fails when it does not exist and needs GENERIC_WRITE. Others are refused.
 /// @return the stream, owned by the caller and released with CloseHandle() or fclose(); INVALID_HANDLE_VALUE
 /// on failure.
 KX_PLATFORM_EXPORT HANDLE CreateFileW(const wchar_t *name, DWORD access, DWORD shareMode,
@@ -70,8 +67,7 @@ KX_PLATFORM_EXPORT HANDLE CreateFileW(const wchar_t *name, DWORD access, DWORD s
                                       HANDLE templateFile);
 
 /// Closes the stream behind a handle of CreateFileW().
-/// @param handle  such a handle, not yet closed; anything else but null and INVALID_HANDLE_VALUE is
-/// undefined.
+/// @param handle such a handle, not yet closed; anything else but null and INVALID_HANDLE_VALUE is undefined.
 /// @return nonzero on success; FALSE for null and INVALID_HANDLE_VALUE, or when buffered data could not be
 /// written.
 KX_PLATFORM_EXPORT BOOL CloseHandle(HANDLE handle);
@@ -81,15 +77,14 @@ KX_PLATFORM_EXPORT BOOL CloseHandle(HANDLE handle);
 KX_PLATFORM_EXPORT BOOL DeleteFileW(const wchar_t *name);
 
 /// @return the POSIX mode word (st_mode) of what @p name names, symbolic links followed, in place of the
-/// Win32 attribute
-///         bits; INVALID_FILE_ATTRIBUTES when it does not exist or cannot be reached.
+/// Win32 attribute bits; INVALID_FILE_ATTRIBUTES when it does not exist or cannot be reached.
 KX_PLATFORM_EXPORT DWORD GetFileAttributesW(const wchar_t *name);
 
 /// Copies the absolute path of the current directory, without a trailing slash except for the root.
-/// @param bufferMax  room in @p buffer, in characters.
+/// @param bufferMax room in @p buffer, in characters.
 /// @return the length without the terminator; when the room does not suffice or @p buffer is null, the room
-/// needed
-///         with the terminator, and nothing is written; 0 when there is no current directory.
+/// needed with the terminator, and nothing is written; 0 when there is no current directory, or when its name
+/// is no text.
 KX_PLATFORM_EXPORT DWORD GetCurrentDirectoryW(DWORD bufferMax, wchar_t *buffer);
 
 /// Changes the current directory of the process.
@@ -109,13 +104,11 @@ KX_PLATFORM_EXPORT int _wrename(const wchar_t *oldName, const wchar_t *newName);
 KX_PLATFORM_EXPORT int _wtoi(const wchar_t *text);
 
 /// @return the decimal number at the start of @p text, limited to the range of long (64 bits, unlike Win32);
-/// 0 when
-///         there is none.
+/// 0 when there is none.
 KX_PLATFORM_EXPORT long _wtol(const wchar_t *text);
 
 /// @return the floating-point number at the start of @p text, written in the C library's locale as "%f"
-/// writes it;
-///         0 when there is none; plus or minus infinity when it is too large.
+/// writes it; 0 when there is none; plus or minus infinity when it is too large.
 KX_PLATFORM_EXPORT double _wtof(const wchar_t *text);
 
 /// @return the character position after @p current; null for null.
@@ -125,9 +118,8 @@ KX_PLATFORM_EXPORT wchar_t *_wcsinc(const wchar_t *current);
 KX_PLATFORM_EXPORT unsigned int _wcsnextc(const wchar_t *current);
 
 /// Copies @p count bytes when they fit. The blocks must not overlap.
-/// @param destSize  room in @p dest, in bytes.
+/// @param destSize room in @p dest, in bytes.
 /// @return 0 on success, also when @p count is 0; EINVAL when @p dest is null; EINVAL with all of @p dest
-/// zeroed when
-///         @p src is null; ERANGE with all of @p dest zeroed when @p count exceeds @p destSize.
+/// zeroed when @p src is null; ERANGE with all of @p dest zeroed when @p count exceeds @p destSize.
 KX_PLATFORM_EXPORT int memcpy_s(void *dest, std::size_t destSize, const void *src, std::size_t count);
 /// @}

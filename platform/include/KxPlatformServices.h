@@ -22,10 +22,9 @@ public:
     KxKeyboardService &operator=(const KxKeyboardService &) = delete;
     virtual ~KxKeyboardService();
 
-    /// @param virtualKey  a VK_ code, or the ASCII code of a digit or capital letter.
+    /// @param virtualKey a VK_ code, or the ASCII code of a digit or capital letter.
     /// @return a value whose low 16 bits are Win32's key state: 0x8000 while the key is down, plus 1 while a
-    /// lock key is
-    ///         toggled on (where the window system tells it); 0 for an unknown key.
+    /// lock key is toggled on (where the window system tells it); 0 for an unknown key.
     virtual int keyState(int virtualKey) = 0;
 };
 
@@ -38,7 +37,7 @@ public:
     KxImageService &operator=(const KxImageService &) = delete;
     virtual ~KxImageService();
 
-    /// @param handle  what LoadImageW() or KxGdiObjectService::createBitmap() gave; any other value is
+    /// @param handle what LoadImageW() or KxGdiObjectService::createBitmap() gave; any other value is
     /// allowed.
     /// @return a copy of the image as it is now; a null QImage when the handle is of no live image.
     virtual QImage image(HANDLE handle) = 0;
@@ -54,23 +53,23 @@ public:
     KxGdiObjectService &operator=(const KxGdiObjectService &) = delete;
     virtual ~KxGdiObjectService();
 
-    /// @param handle  the handle of a bitmap.
+    /// @param handle the handle of a bitmap.
     /// @return the device to paint on, owned by the bitmap and gone with it; null when there is no such
     /// bitmap.
     virtual QPaintDevice *bitmapDevice(HANDLE handle) = 0;
 
-    /// @param handle  the handle of a bitmap.
+    /// @param handle the handle of a bitmap.
     /// @return a copy of the bitmap as it is now; a null QImage when there is no such bitmap.
     virtual QImage bitmapImage(HANDLE handle) = 0;
 
-    /// @param handle  the handle of a brush.
+    /// @param handle the handle of a brush.
     /// @return its colour, all 32 bits as they were given; nothing when there is no such brush.
     virtual std::optional<COLORREF> brushColor(HANDLE handle) = 0;
 
     /// Makes a bitmap of black pixels.
-    /// @param flags   ignored by the built-in service; callers give 0.
-    /// @param width   in pixels.
-    /// @param height  in pixels.
+    /// @param flags ignored by the built-in service; callers give 0.
+    /// @param width in pixels.
+    /// @param height in pixels.
     /// @return its handle, to be released with deleteObject(); null when a size is not positive or too large.
     virtual HANDLE createBitmap(UINT flags, int width, int height) = 0;
 
@@ -94,8 +93,8 @@ public:
 
     /// Spells a path as the file system has it. A path that exists stays as it is; otherwise each component
     /// is looked up in its directory, an exact match before one that differs in case only.
-    /// @param path       absolute, or relative to the current directory; components are separated by '/'.
-    /// @param corrected  receives the path; unchanged on failure. It may be @p path itself.
+    /// @param path absolute, or relative to the current directory; components are separated by '/'.
+    /// @param corrected receives the path; unchanged on failure. It may be @p path itself.
     /// @return whether all of the path was found.
     virtual bool correct(const std::wstring &path, std::wstring &corrected) = 0;
 };
@@ -120,6 +119,6 @@ public:
 KX_PLATFORM_EXPORT KxPlatformServices &platformServices();
 
 /// Installs services in place of the built-in ones.
-/// @param services  borrowed: it must outlive its use; null restores the built-in services with the objects
+/// @param services borrowed: it must outlive its use; null restores the built-in services with the objects
 /// they hold.
 KX_PLATFORM_EXPORT void setPlatformServices(KxPlatformServices *services);

@@ -8,7 +8,7 @@ std::optional<QString> toFileName(std::wstring_view name)
     text.reserve(int(name.size()));
     for (const wchar_t character : name) {
         const auto code = char32_t(character);
-        if (code == 0 || code > QChar::LastValidCodePoint || QChar::isSurrogate(code))
+        if (code > QChar::LastValidCodePoint || QChar::isSurrogate(code))
             return std::nullopt;
         // Not QString::fromWCharArray(): it drops a leading U+FEFF.
         if (QChar::requiresSurrogates(code))

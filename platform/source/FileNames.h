@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-/// @return @p name as a QString; nothing when it holds a zero or something other than Unicode code points.
+/// @return @p name as a QString; nothing when it holds something other than Unicode code points.
 std::optional<QString> toFileName(std::wstring_view name);
 
 /// @return @p name as the file system has it; nothing when it has no such form.

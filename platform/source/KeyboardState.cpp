@@ -108,7 +108,7 @@ bool KeyTracker::eventFilter(QObject *, QEvent *event)
 
 void KeyTracker::press(const QKeyEvent &event)
 {
-    m_modifiers = event.modifiers() | modifierOf(event.key());
+    m_modifiers = event.modifiers();
     noteToggles(event);
     if (const int virtualKey = virtualKeyOf(event))
         m_keys[identityOf(event)] = virtualKey;
