@@ -38,6 +38,7 @@ struct Children
         window.Attach(handleOf(&widget));
         for (int id = firstId; id < firstId + childCount; ++id) {
             auto *child = new QWidget(&widget);
+            child->setObjectName(QString::number(id));
             window.SetDlgItem(id, handleOf(child));
             window.GetDlgItem(id);
             byId.emplace(id, child);
@@ -71,6 +72,19 @@ void getDlgItemPlain(benchmark::State &state)
     }
 }
 BENCHMARK(getDlgItemPlain)->Name("GetDlgItem of 1,000/plain");
+
+// What code without such a map does.
+void findChildPlain(benchmark::State &state)
+{
+    Children children;
+    int id = firstId;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(children.widget.findChild<QWidget *>(QString::number(id)));
+        id = nextId(id);
+    }
+}
+BENCHMARK(getDlgItemKx)->Name("GetDlgItem of 1,000, by name/Kx");
+BENCHMARK(findChildPlain)->Name("GetDlgItem of 1,000, by name/plain");
 
 template <typename Widget> struct Bound
 {

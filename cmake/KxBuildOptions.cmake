@@ -30,6 +30,8 @@ if(KX_SANITIZE)
         -fno-sanitize=null,vptr)
     target_link_options(kx_build_options INTERFACE -fsanitize=${KX_SANITIZE})
 endif()
+# For the environment of tests: what the leak checker finds in libraries that are not ours.
+set(kx_leak_options "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/scripts/lsan.supp:print_suppressions=0")
 if(KX_COVERAGE)
     target_compile_options(kx_build_options INTERFACE --coverage)
     target_link_options(kx_build_options INTERFACE --coverage)

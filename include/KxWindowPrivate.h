@@ -2,15 +2,12 @@
 /// @brief Private data of window objects, for authors of CWnd subclasses that add to it.
 #pragma once
 
-#include "KxWinTypes.h"
+#include "KxWindows.h"
 
 #include <QPointer>
 #include <QWidget>
 
 #include <map>
-
-class CDC;
-class CWnd;
 
 /// A control as its window registered it: the handle, and whether the widget behind it still lives.
 struct CWndChild
@@ -28,7 +25,7 @@ struct KX_MFC_EXPORT CWndPrivate
     virtual ~CWndPrivate();
 
     /// @return the private data of @p window, which must not be a null object.
-    static CWndPrivate *of(const CWnd *window);
+    static CWndPrivate *of(const CWnd *window) { return window->d_ptr; }
 
     QPointer<QWidget> m_pWidget;            ///< The bound widget; null while the window is unbound.
     CWnd *q_ptr = nullptr;                  ///< The window object.

@@ -14,7 +14,6 @@
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
 #include <csignal>
 #include <cstdio>
@@ -90,13 +89,17 @@ QPixmap visibleWindows()
     QPixmap picture(area.size());
     picture.fill(Qt::darkGray);
     QPainter painter(&picture);
+    const auto draw = [&](QWidget *window) {
+        const QRect place = window->geometry().translated(-area.topLeft());
+        painter.drawPixmap(place.topLeft(), window->grab());
+        painter.drawRect(place.adjusted(-1, -1, 0, 0));
+    };
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         if (window->isVisible() && window != QApplication::activeModalWidget())
-            painter.drawPixmap(window->geometry().topLeft() - area.topLeft(), window->grab());
+            draw(window);
     }
-    QWidget *top = QApplication::activeModalWidget();
-    painter.drawPixmap(top->geometry().topLeft() - area.topLeft(), top->grab());
+    draw(QApplication::activeModalWidget());
     return picture;
 }
 
@@ -114,6 +117,8 @@ bool Tour::useOwnSettings()
 Tour::Tour(const QString &folder)
     : m_folder(folder)
 {
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &Tour::waitForWindow);
 }
 
 int Tour::run()
@@ -127,9 +132,9 @@ int Tour::run()
 
     runDialog({{"01-defaults", Window::Form, [this] { showsDefaults(); }, {}},
                {"02-edited", Window::Form, [this] { edit(); }, {}},
-               {"03-bad-port", Window::Form, [] { type("port", "70000"); }, [] { press(Qt::Key_Return); }},
+               {"03-bad-port", Window::Form, [] { type("port", "70000"); }, [] { click("ok"); }},
                {"04-refused", Window::MessageBox, [this] { showsRefusal(); }, [] { press(Qt::Key_Return); }},
-               {"05-corrected", Window::Form, [this] { correctPort(); }, [] { click("ok"); }}},
+               {"05-corrected", Window::Form, [this] { correctPort(); }, [] { press(Qt::Key_Return); }}},
               IDOK);
     expectStored("Port=9100");
     expectStored("Name=North ridge");
@@ -158,7 +163,7 @@ void Tour::runDialog(std::vector<Step> steps, int expectedResult)
 {
     m_steps = std::move(steps);
     m_next = 0;
-    QTimer::singleShot(0, this, &Tour::waitForWindow);
+    m_timer.start(0);
     const auto result = theApp.ShowSettings();
     expect(result == expectedResult,
            QStringLiteral("DoModal gave %1, not %2").arg(result).arg(expectedResult));
@@ -173,7 +178,7 @@ void Tour::waitForWindow()
     const Step &step = m_steps[m_next];
     currentStep = step.name;
     if (!windowIsReady(step.window)) {
-        QTimer::singleShot(20, this, &Tour::waitForWindow);
+        m_timer.start(20);
         return;
     }
 
@@ -181,17 +186,22 @@ void Tour::waitForWindow()
     step.act();
     shoot();
     // Before leaving: a key press that opens a modal window returns only when that window is closed.
-    QTimer::singleShot(0, this, &Tour::waitForWindow);
+    m_timer.start(0);
     if (step.leave)
         step.leave();
 }
 
 bool Tour::windowIsReady(Window window) const
 {
-    const QWidget *modal = QApplication::activeModalWidget();
-    if (!modal || !modal->isActiveWindow() || !modal->windowHandle()->isExposed())
+    QWidget *modal = QApplication::activeModalWidget();
+    const bool wanted =
+        modal && (qobject_cast<QMessageBox *>(modal) != nullptr) == (window == Window::MessageBox);
+    if (!wanted || !modal->windowHandle()->isExposed())
         return false;
-    return (qobject_cast<const QMessageBox *>(modal) != nullptr) == (window == Window::MessageBox);
+    // Offscreen there is no window manager to activate the dialog when the message box is gone.
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        modal->activateWindow();
+    return modal->isActiveWindow();
 }
 
 void Tour::showsDefaults()

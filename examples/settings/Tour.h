@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 #include <vector>
@@ -52,6 +53,7 @@ private:
     void shoot();
 
     QDir m_folder;
+    QTimer m_timer; ///< Calls waitForWindow().
     std::vector<Step> m_steps;
     std::size_t m_next = 0;
     int m_failures = 0;

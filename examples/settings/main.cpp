@@ -26,6 +26,13 @@ void reportNoDisplay(QtMsgType type, const QMessageLogContext &, const QString &
     std::_Exit(EXIT_FAILURE);
 }
 
+// The offscreen platform remarks on each of the things that a window manager would do.
+void dropPluginRemarks(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    if (!message.startsWith(QLatin1String("This plugin does not support")))
+        std::fprintf(stderr, "settings: %s\n", qPrintable(message));
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -46,7 +53,7 @@ int main(int argc, char *argv[])
 
     qInstallMessageHandler(reportNoDisplay);
     QApplication application(argc, argv);
-    qInstallMessageHandler(nullptr);
+    qInstallMessageHandler(touring ? dropPluginRemarks : nullptr);
 
     if (touring)
         return Tour(wantsTour ? QString::fromLocal8Bit(argv[2]) : QStringLiteral("settings-tour")).run();

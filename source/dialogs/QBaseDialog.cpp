@@ -21,13 +21,14 @@ QBaseDialog::QBaseDialog(QWidget *parent)
 
 int QBaseDialog::exec()
 {
+    // Applications delete their dialogs from within: WA_DeleteOnClose, or an overridden call-back.
     const QPointer<QBaseDialog> self(this);
     m_nEndID = noEndID;
     const int result = QDialog::exec();
-    if (!self)
-        return result;
-    execCallBack(m_nEndID);
-    m_nEndID = noEndID;
+    if (self)
+        execCallBack(m_nEndID);
+    if (self)
+        m_nEndID = noEndID;
     return result;
 }
 
@@ -43,8 +44,10 @@ void QBaseDialog::OnCancel()
 
 void QBaseDialog::endById(int nID)
 {
+    const QPointer<QBaseDialog> self(this);
     accept();
-    m_nEndID = nID;
+    if (self)
+        m_nEndID = nID;
 }
 
 void QBaseDialog::execCallBack(int) {}

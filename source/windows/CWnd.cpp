@@ -4,11 +4,6 @@
 
 CWndPrivate::~CWndPrivate() = default;
 
-CWndPrivate *CWndPrivate::of(const CWnd *window)
-{
-    return window->d_ptr;
-}
-
 CWnd::CWnd(CWnd *pParent)
     : CWnd(*new CWndPrivate, pParent)
 {

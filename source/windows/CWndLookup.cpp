@@ -47,10 +47,22 @@ int CWnd::GetDlgCtrlID() const
     return boundWidget(this) ? d_ptr->m_nCtrlID : withoutWidget<int>(this);
 }
 
+// Qt gives the address of a destroyed widget to another one; a wrapper made for the former then serves the new one.
+static void renewWrapper(HWND h)
+{
+    CWnd *window = CWnd::FromHandle(h);
+    CWndPrivate *d = window ? CWndPrivate::of(window) : nullptr;
+    if (!d || d->m_bPermanent || d->m_pHandleWidget)
+        return;
+    d->m_pWidget = asWidget(h);
+    d->m_pHandleWidget = asWidget(h);
+}
+
 BOOL CWnd::SetDlgItem(int nID, HWND h)
 {
     if (!boundWidget(this))
         return withoutWidget<BOOL>(this);
+    renewWrapper(h);
     CWndChild &child = d_ptr->m_mapChildren.try_emplace(nID, CWndChild{h, nullptr}).first->second;
     if (child.m_hWnd == h)
         child.m_pWidget = asWidget(h);
