@@ -33,7 +33,7 @@ template <typename CT> inline CT sstolower(const CT &ch, const std::locale &loca
 }
 
 /// sstoupper() as a function object that std::bind2nd can bind to a locale.
-template <typename CT> struct SSToUpper
+template <typename CT = wchar_t> struct SSToUpper
 {
     using first_argument_type = CT;
     using second_argument_type = std::locale;
@@ -44,7 +44,7 @@ template <typename CT> struct SSToUpper
 };
 
 /// sstolower() as a function object that std::bind2nd can bind to a locale.
-template <typename CT> struct SSToLower
+template <typename CT = wchar_t> struct SSToLower
 {
     using first_argument_type = CT;
     using second_argument_type = std::locale;
@@ -55,7 +55,7 @@ template <typename CT> struct SSToLower
 };
 
 /// Predicate: an element that its locale does not count as white space.
-template <typename CT> struct NotSpace
+template <typename CT = wchar_t> struct NotSpace
 {
     std::locale locale;
 

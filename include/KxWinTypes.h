@@ -163,6 +163,22 @@ struct LOGPALETTE
 };
 /// @}
 
+/// @name Pointer types
+/// @{
+using LPVOID = void *;
+using LPSTR = char *;
+using LPCSTR = const char *;
+using LPWSTR = wchar_t *;
+using LPCWSTR = const wchar_t *;
+using LPDWORD = DWORD *;
+using LPPOINT = POINT *;
+using LPSIZE = SIZE *;
+using LPRECT = RECT *;
+using LPCRECT = const RECT *;
+using LPMSG = MSG *;
+using LPCREATESTRUCTW = CREATESTRUCTW *;
+/// @}
+
 static_assert(sizeof(wchar_t) == 4, "texts are UTF-32");
 static_assert(sizeof(POINT) == 8 && offsetof(POINT, y) == 4);
 static_assert(sizeof(SIZE) == 8 && offsetof(SIZE, cy) == 4);

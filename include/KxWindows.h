@@ -43,7 +43,8 @@ KX_MFC_EXPORT CWnd *CreateCWndByHandle(HWND h);
 /// ported code chains calls on unchecked lookups; the result is then that address converted to the result
 /// type, thus 0 or null. Members under "fixed results" give their result for every object. A virtual member
 /// has this guard only when it is called non-virtually, as in `window->CWnd::SetFocus()`. Callers that rely
-/// on the guard have to be compiled with `-fno-delete-null-pointer-checks`.
+/// on the guard have to be compiled with `-fno-delete-null-pointer-checks`, which the CMake target
+/// Kx::MFCWrapper brings along.
 ///
 /// **Unbound.** A window object without a widget, be it never bound, detached, replaced by another object
 /// bound to its handle, or left behind by a widget that Qt destroyed, changes nothing and gives the value

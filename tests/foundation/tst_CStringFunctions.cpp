@@ -130,8 +130,8 @@ void tst_CStringFunctions::caseFunctionsTakeALocale()
     QCOMPARE(sstoupper(L'a', classic), L'A');
     QCOMPARE(sstolower(L'A', classic), L'a');
     QCOMPARE(sstoupper('a', classic), 'A');
-    QCOMPARE(SSToUpper<wchar_t>()(L'z', classic), L'Z');
-    QCOMPARE(SSToLower<wchar_t>()(L'Z', classic), L'z');
+    QCOMPARE(SSToUpper<>()(L'z', classic), L'Z');
+    QCOMPARE(SSToLower<>()(L'Z', classic), L'z');
 }
 
 void tst_CStringFunctions::functionObjectsBindToALocale()
@@ -151,7 +151,7 @@ void tst_CStringFunctions::functionObjectsBindToALocale()
 
 void tst_CStringFunctions::notSpace()
 {
-    const NotSpace<wchar_t> isNotSpace(std::locale::classic());
+    const NotSpace isNotSpace(std::locale::classic());
     for (wchar_t space : L" \t\n\v\f\r"s)
         QVERIFY(!isNotSpace(space));
     for (wchar_t other : L"a_0\0\u00a0"s)
