@@ -103,6 +103,7 @@ public:
 class KX_MFC_EXPORT CArchive
 {
 public:
+    /// The arguments are ignored.
     CArchive(CFile *pFile, UINT nMode, int nBufSize = 4096, void *lpBuf = nullptr);
     CArchive(const CArchive &) = delete;
     CArchive &operator=(const CArchive &) = delete;

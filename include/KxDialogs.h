@@ -132,7 +132,9 @@ public:
     virtual void execCallBack(int nID);
 
 protected:
+    /// The Escape key calls OnCancel(); every other key is QDialog's.
     void keyPressEvent(QKeyEvent *event) override;
+    /// Moves the centre of the dialog to that of the default screen's available area.
     void showEvent(QShowEvent *event) override;
 
 private:
@@ -156,6 +158,8 @@ public:
     bool m_bFail = false;           ///< Set by Fail().
     CWnd *m_pDlgWnd;                ///< The window whose controls are exchanged; not owned.
 
+    /// @param pDlgWnd the window whose controls are exchanged; not owned, may be null.
+    /// @param bSaveAndValidate true: controls to members. false: members to controls.
     CDataExchange(CWnd *pDlgWnd, bool bSaveAndValidate);
 
     /// Makes CWnd::UpdateData() give FALSE. Returns normally: no exception, no message, no change of focus.
@@ -170,13 +174,22 @@ public:
 /// the member. They are written with CString::Format: "%d", "%ld" or "%f". Unsigned values above the signed
 /// maximum therefore show as negative numbers.
 /// @{
+
+/// _wtoi, the low 8 bits; "%d".
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, unsigned char &value);
+/// _wtoi, the low 16 bits; "%d".
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, short &value);
+/// _wtoi; "%d".
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, int &value);
+/// _wtoi; "%d" of the same bits, thus signed.
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, unsigned int &value);
+/// _wtol; "%ld".
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, long &value);
+/// _wtol; "%ld" of the same bits, thus signed.
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, unsigned long &value);
+/// _wtof; "%f", six decimals.
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, float &value);
+/// _wtof; "%lf", six decimals.
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, double &value);
 /// Exchanges the text itself, an empty one included.
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, CString &value);

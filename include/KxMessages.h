@@ -13,6 +13,7 @@ extern KX_MFC_EXPORT int iKxMsgEventType;
 class KX_MFC_EXPORT QKxMsgEvent : public QEvent
 {
 public:
+    /// An event of eventType() with a message number and its two parameters.
     QKxMsgEvent(UINT message, WPARAM wParam, LPARAM lParam);
     ~QKxMsgEvent() override;
 

@@ -35,9 +35,9 @@ template <typename CT> inline CT sstolower(const CT &ch, const std::locale &loca
 /// sstoupper() as a function object that std::bind2nd can bind to a locale.
 template <typename CT = wchar_t> struct SSToUpper
 {
-    using first_argument_type = CT;
-    using second_argument_type = std::locale;
-    using result_type = CT;
+    using first_argument_type = CT;           ///< The element.
+    using second_argument_type = std::locale; ///< The locale.
+    using result_type = CT;                   ///< The converted element.
 
     /// @return @p ch in upper case.
     CT operator()(const CT &ch, const std::locale &locale) const { return sstoupper(ch, locale); }
@@ -46,9 +46,9 @@ template <typename CT = wchar_t> struct SSToUpper
 /// sstolower() as a function object that std::bind2nd can bind to a locale.
 template <typename CT = wchar_t> struct SSToLower
 {
-    using first_argument_type = CT;
-    using second_argument_type = std::locale;
-    using result_type = CT;
+    using first_argument_type = CT;           ///< The element.
+    using second_argument_type = std::locale; ///< The locale.
+    using result_type = CT;                   ///< The converted element.
 
     /// @return @p ch in lower case.
     CT operator()(const CT &ch, const std::locale &locale) const { return sstolower(ch, locale); }
@@ -57,8 +57,9 @@ template <typename CT = wchar_t> struct SSToLower
 /// Predicate: an element that its locale does not count as white space.
 template <typename CT = wchar_t> struct NotSpace
 {
-    std::locale locale;
+    std::locale locale; ///< Says what is white space.
 
+    /// Uses @p spaceLocale, or the global locale.
     explicit NotSpace(const std::locale &spaceLocale = std::locale())
         : locale(spaceLocale)
     {

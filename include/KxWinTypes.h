@@ -67,12 +67,14 @@ using TIMERPROC = void (*)(HWND, UINT, UINT_PTR, DWORD);
 
 /// @name Records
 /// @{
+/// A point in pixels.
 struct POINT
 {
     LONG x;
     LONG y;
 };
 
+/// A width and height in pixels.
 struct SIZE
 {
     LONG cx;
@@ -88,6 +90,7 @@ struct RECT
     LONG bottom;
 };
 
+/// A message of a message loop. No function of this library fills one.
 struct MSG
 {
     HWND hwnd;
@@ -98,6 +101,7 @@ struct MSG
     POINT pt;
 };
 
+/// Header of a notification; no control sends any.
 struct NMHDR
 {
     HWND hwndFrom;
@@ -105,6 +109,7 @@ struct NMHDR
     UINT code;
 };
 
+/// Accepted and ignored.
 struct SECURITY_ATTRIBUTES
 {
     DWORD nLength;
@@ -112,6 +117,7 @@ struct SECURITY_ATTRIBUTES
     BOOL bInheritHandle;
 };
 
+/// Size limits, as CWnd::OnGetMinMaxInfo() takes them.
 struct MINMAXINFO
 {
     POINT ptReserved;
@@ -121,6 +127,7 @@ struct MINMAXINFO
     POINT ptMaxTrackSize;
 };
 
+/// Creation data, as CWnd::OnCreate() takes them.
 struct CREATESTRUCTW
 {
     void *lpCreateParams;
@@ -137,6 +144,7 @@ struct CREATESTRUCTW
     DWORD dwExStyle;
 };
 
+/// A request for help, as CDialog::OnHelpInfo() takes it.
 struct HELPINFO
 {
     UINT cbSize;
@@ -147,6 +155,7 @@ struct HELPINFO
     POINT MousePos;
 };
 
+/// A colour of a palette.
 struct PALETTEENTRY
 {
     BYTE peRed;
@@ -155,6 +164,7 @@ struct PALETTEENTRY
     BYTE peFlags;
 };
 
+/// A palette, as CreatePalette() takes it.
 struct LOGPALETTE
 {
     WORD palVersion;

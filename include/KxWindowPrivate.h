@@ -12,8 +12,8 @@
 /// A control as its window registered it: the handle, and whether the widget behind it still lives.
 struct CWndChild
 {
-    HWND m_hWnd = nullptr;
-    QPointer<QWidget> m_pWidget;
+    HWND m_hWnd = nullptr;       ///< The registered handle.
+    QPointer<QWidget> m_pWidget; ///< The widget behind it while Qt keeps it.
 };
 
 /// Private data of a CWnd, owned by it.
