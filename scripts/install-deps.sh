@@ -6,7 +6,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 demo_packages=(g++ cmake ninja-build ccache qtbase5-dev libqt5gui5 fonts-dejavu-core)
 wayland_packages=("${demo_packages[@]}" qtwayland5)
 test_packages=("${demo_packages[@]}"
-    clang lld libclang-rt-14-dev clang-format clang-tidy
+    clang lld llvm libclang-rt-14-dev clang-format clang-tidy
     xvfb openbox x11-utils libbenchmark-dev doxygen)
 
 missing_packages()
