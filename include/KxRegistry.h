@@ -42,7 +42,7 @@ public:
     /// Only the characters of @p keyName are written: on an object that had a longer path, the tail of that
     /// path stays.
     /// @param keyName at most 2048 elements.
-    /// @return 0; -1 with no effect when @p keyName is null or longer.
+    /// @return 0, also for a null or longer @p keyName, which leaves the path as it was.
     LONG Create(HKEY parent, const wchar_t *keyName, wchar_t *className = nullptr, unsigned options = 0,
                 unsigned access = KEY_READ | KEY_WRITE, SECURITY_ATTRIBUTES *security = nullptr,
                 unsigned *disposition = nullptr);

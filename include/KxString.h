@@ -11,6 +11,7 @@
 #include <cstdarg>
 #include <locale>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 /// The MFC string on the standard wide string, whose members all stay available.
@@ -69,6 +70,13 @@ public:
         return *this;
     }
 
+    /// Assigns one element.
+    CStdStr &operator=(CT ch)
+    {
+        this->assign(1, ch);
+        return *this;
+    }
+
     /// @name Access and size
     /// @{
 
@@ -85,6 +93,18 @@ public:
     CT &operator[](int index) { return Base::operator[](static_cast<std::size_t>(index)); }
     /// @return the element at @p index, which is not checked; the terminator at size().
     const CT &operator[](int index) const { return Base::operator[](static_cast<std::size_t>(index)); }
+    /// @return the element at an @p index of any other integer type, which is not checked.
+    template <typename Index, typename = std::enable_if_t<std::is_integral_v<Index>>>
+    CT &operator[](Index index)
+    {
+        return Base::operator[](static_cast<std::size_t>(index));
+    }
+    /// @return the element at an @p index of any other integer type, which is not checked.
+    template <typename Index, typename = std::enable_if_t<std::is_integral_v<Index>>>
+    const CT &operator[](Index index) const
+    {
+        return Base::operator[](static_cast<std::size_t>(index));
+    }
     /// @}
 
     /// @name Searching and comparing

@@ -54,9 +54,12 @@ template <typename CT = wchar_t> struct SSToLower
     CT operator()(const CT &ch, const std::locale &locale) const { return sstolower(ch, locale); }
 };
 
-/// Predicate: an element that its locale does not count as white space.
+/// Predicate: an element that its locale does not count as white space. std::not1 can negate it.
 template <typename CT = wchar_t> struct NotSpace
 {
+    using argument_type = CT; ///< The element.
+    using result_type = bool; ///< Whether it is no white space.
+
     std::locale locale; ///< Says what is white space.
 
     /// Uses @p spaceLocale, or the global locale.

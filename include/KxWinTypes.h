@@ -218,6 +218,8 @@ struct CPoint : POINT
         : POINT(point)
     {
     }
+    /// @return this point's record, for functions that take a pointer.
+    operator POINT *() { return this; }
 };
 
 /// A SIZE with constructors.
@@ -235,6 +237,8 @@ struct CSize : SIZE
         : SIZE(size)
     {
     }
+    /// @return this size's record, for functions that take a pointer.
+    operator SIZE *() { return this; }
 };
 
 /// A RECT with constructors. Width() and Height() are plain differences, thus treat right and bottom as
@@ -253,6 +257,10 @@ struct CRect : RECT
         : RECT(rect)
     {
     }
+    /// @return this rectangle's record, for functions that take a pointer.
+    operator RECT *() { return this; }
+    /// @return this rectangle's record, for functions that take a pointer.
+    operator const RECT *() const { return this; }
     /// @return right - left.
     int Width() const { return right - left; }
     /// @return bottom - top.

@@ -85,7 +85,11 @@ void DDX_LBIndex(CDataExchange *pDX, int nIDC, int &index)
         list->setCurrentRow(correctIndex(index, list->count()));
 }
 
-void DDX_LBString(CDataExchange *, int, CString &) {}
+void DDX_LBString(CDataExchange *pDX, int nIDC, CString &)
+{
+    // The look-up alone, which makes the control's object; the text stays on both sides.
+    exchangeControl(pDX, nIDC);
+}
 
 void DDX_Slider(CDataExchange *pDX, int nIDC, int &value)
 {

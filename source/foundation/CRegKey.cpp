@@ -57,12 +57,10 @@ LONG CRegKey::QueryValue(wchar_t *buffer, const wchar_t *valueName, unsigned *co
 LONG CRegKey::Create(HKEY, const wchar_t *keyName, wchar_t *, unsigned, unsigned, SECURITY_ATTRIBUTES *,
                      unsigned *)
 {
-    const std::size_t length = keyName ? std::wcslen(keyName) : maxPathLength + 1;
-    if (length > maxPathLength)
-        return -1;
-
+    const std::size_t length = keyName ? std::wcslen(keyName) : 0;
     // No terminator is written: the tail of a longer former path stays.
-    std::copy_n(keyName, length, m_path.get());
+    if (length <= maxPathLength)
+        std::copy_n(keyName, length, m_path.get());
     return 0;
 }
 

@@ -30,8 +30,8 @@ CWnd::~CWnd()
     // Whichever object it maps to: a second object of a handle takes the first one's registration with it.
     if (m_hWnd)
         CWndHandleTable.erase(m_hWnd);
-    for (const auto &[id, child] : d_ptr->m_mapChildren)
-        deleteWrapper(FromHandle(child.m_hWnd));
+    for (const auto &[id, handle] : d_ptr->m_mapChildren)
+        deleteWrapper(FromHandle(handle));
     delete d_ptr->m_pDC;
     delete d_ptr;
 }
@@ -50,10 +50,11 @@ void CWnd::SetHandle(HWND h)
     if (isNullObject(this) || !h || m_hWnd)
         return;
     m_hWnd = h;
-    d_ptr->m_pWidget = asWidget(h);
-    d_ptr->m_pHandleWidget = asWidget(h);
+    d_ptr->m_pHandleWidget = guardedWidget(h);
+    d_ptr->m_pWidget = d_ptr->m_pHandleWidget;
     if (CWnd *other = FromHandle(h)) {
         CWndPrivate::of(other)->m_pWidget = nullptr;
+        CWndPrivate::of(other)->m_bUnbound = true;
         deleteWrapper(other);
     }
     // A wrapper has yielded its entry; an application's object keeps the registration it has.

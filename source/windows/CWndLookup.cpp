@@ -47,31 +47,26 @@ int CWnd::GetDlgCtrlID() const
     return boundWidget(this) ? d_ptr->m_nCtrlID : withoutWidget<int>(this);
 }
 
-// Qt gives the address of a destroyed widget to another one; a wrapper made for the former then serves the new one.
-static void renewWrapper(HWND h)
+// Qt gives the address of a destroyed widget to another one, and the object of that handle then serves the new one.
+static void renewObject(HWND h, const QPointer<QWidget> &widget)
 {
     CWnd *window = CWnd::FromHandle(h);
     CWndPrivate *d = window ? CWndPrivate::of(window) : nullptr;
-    if (!d || d->m_bPermanent || d->m_pHandleWidget)
+    if (!d || d->m_bUnbound || d->m_pHandleWidget)
         return;
-    d->m_pWidget = asWidget(h);
-    d->m_pHandleWidget = asWidget(h);
+    d->m_pWidget = widget;
+    d->m_pHandleWidget = widget;
 }
 
 BOOL CWnd::SetDlgItem(int nID, HWND h)
 {
     if (!boundWidget(this))
         return withoutWidget<BOOL>(this);
-    renewWrapper(h);
-    CWndChild &child = d_ptr->m_mapChildren.try_emplace(nID, CWndChild{h, nullptr}).first->second;
-    if (child.m_hWnd == h)
-        child.m_pWidget = asWidget(h);
+    const QPointer<QWidget> widget = guardedWidget(h);
+    renewObject(h, widget);
+    if (d_ptr->m_mapChildren.emplace(nID, h).first->second == h)
+        d_ptr->m_mapChildWidgets[nID] = widget;
     return TRUE;
-}
-
-static bool isDestroyed(const CWndChild &child)
-{
-    return child.m_hWnd && !child.m_pWidget;
 }
 
 CWnd *CWnd::GetDlgItem(int nID) const
@@ -82,14 +77,15 @@ CWnd *CWnd::GetDlgItem(int nID) const
     if (!boundWidget(this))
         return withoutWidget<CWnd *>(this);
     const auto child = d_ptr->m_mapChildren.find(nID);
-    if (child == d_ptr->m_mapChildren.end() || !child->second.m_hWnd)
+    if (child == d_ptr->m_mapChildren.end() || !child->second)
         return &sNullWnd;
 
-    CWnd *item = FromHandle(child->second.m_hWnd);
-    if (!item && isDestroyed(child->second))
+    CWnd *item = FromHandle(child->second);
+    // No wrapper is made for a widget that Qt destroyed.
+    if (!item && !d_ptr->m_mapChildWidgets[nID])
         return &sNullWnd;
     if (!item)
-        item = CreateCWndByHandle(child->second.m_hWnd);
+        item = CreateCWndByHandle(child->second);
     item->SetParent(const_cast<CWnd *>(this));
     item->SetCtrlID(nID);
     return item;
@@ -141,13 +137,14 @@ BOOL CWnd::SubclassDlgItem(UINT nID, CWnd *pParent)
     if (m_hWnd)
         return TRUE;
     // The parent's own binding does not matter: its controls stay registered when it is detached.
-    const auto &children = pParent->d_ptr->m_mapChildren;
-    const auto child = children.find(static_cast<int>(nID));
-    if (child == children.end() || isDestroyed(child->second))
+    CWndPrivate *parent = CWndPrivate::of(pParent);
+    const auto id = static_cast<int>(nID);
+    const auto child = parent->m_mapChildren.find(id);
+    if (child == parent->m_mapChildren.end() || (child->second && !parent->m_mapChildWidgets[id]))
         return FALSE;
-    SetHandle(child->second.m_hWnd);
+    SetHandle(child->second);
     SetParent(pParent);
-    SetCtrlID(static_cast<int>(nID));
+    SetCtrlID(id);
     PreSubclassWindow();
     return TRUE;
 }

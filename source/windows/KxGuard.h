@@ -42,6 +42,12 @@ inline QWidget *asWidget(HWND handle)
     return reinterpret_cast<QWidget *>(handle);
 }
 
+// The numbers below any address, which ported code gives as handles with a meaning of their own, have no widget.
+inline QPointer<QWidget> guardedWidget(HWND handle)
+{
+    return reinterpret_cast<std::uintptr_t>(handle) > 0xFFFF ? asWidget(handle) : nullptr;
+}
+
 inline HWND asHandle(QWidget *widget)
 {
     return reinterpret_cast<HWND>(widget);

@@ -250,6 +250,8 @@ void tst_DdxLists::listStringDoesNothing()
     QCOMPARE(list->currentRow(), 1);
     QCOMPARE(list->count(), 3);
     QVERIFY(!exchange.m_bFail);
+    // Looked up all the same.
+    QVERIFY(CWnd::FromHandle(reinterpret_cast<HWND>(static_cast<QWidget *>(list))));
 }
 
 QTEST_MAIN(tst_DdxLists)

@@ -196,6 +196,9 @@ void tst_CString::indexing()
     QCOMPARE(constString[1], L'x');
     QCOMPARE(constString[3], L'\0');
     QCOMPARE(string[std::size_t{2}], L'c');
+    string[INT_PTR{2}] = L'y';
+    QCOMPARE(constString[2L], L'y');
+    QCOMPARE(constString[2U], L'y');
 }
 
 void tst_CString::findElement_data()

@@ -93,6 +93,8 @@ void tst_CStringChanges::assignsAnotherString()
     QCOMPARE(stored(string), QStringLiteral("standard"));
     string = CString();
     QVERIFY(string.IsEmpty());
+    string = L'x';
+    QCOMPARE(stored(string), QStringLiteral("x"));
 }
 
 void tst_CStringChanges::assignsNarrowText()

@@ -157,6 +157,10 @@ void tst_CStringFunctions::notSpace()
     for (wchar_t other : L"a_0\0\u00a0"s)
         QVERIFY(isNotSpace(other));
     QVERIFY(NotSpace<char>()('x'));
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+    QVERIFY(std::not1(isNotSpace)(L' '));
+#pragma GCC diagnostic pop
 }
 
 static int printTo(wchar_t *buffer, std::size_t count, const wchar_t *format, ...)

@@ -78,6 +78,10 @@ private Q_SLOTS:
     void widgetDiesBeforeAutoDelete();
     void widgetOfDetachedObjectDies();
     void addressOfDestroyedWidgetIsUsedAgain();
+    void applicationObjectServesTheNewWidgetOfItsHandle();
+    void detachedObjectStaysUnboundAtAReusedAddress();
+    void handleThatIsNoAddress_data();
+    void handleThatIsNoAddress();
     void boundObjectOfReusedAddress();
 
 private:
@@ -309,6 +313,65 @@ void tst_CWndLifetime::addressOfDestroyedWidgetIsUsedAgain()
     window.GetDlgItemTextW(2, text);
     QCOMPARE(QString::fromStdWString(text), QStringLiteral("new"));
     QCOMPARE(window.GetDlgItem(2)->GetDlgCtrlID(), 2);
+}
+
+void tst_CWndLifetime::applicationObjectServesTheNewWidgetOfItsHandle()
+{
+    LabelPlace place;
+    const HWND handle = place.make(QStringLiteral("former"));
+    QWidget dialog;
+    CWnd window;
+    CWnd control;
+    window.SetHandle(handleOf(&dialog));
+    control.SetHandle(handle);
+    place.make(QStringLiteral("new"));
+    QVERIFY(!HWND(control));
+
+    window.SetDlgItem(1, handle);
+    QCOMPARE(window.GetDlgItem(1), &control);
+    QCOMPARE(HWND(control), handle);
+    QCOMPARE(control.GetWindowTextLengthW(), 3);
+}
+
+void tst_CWndLifetime::detachedObjectStaysUnboundAtAReusedAddress()
+{
+    LabelPlace place;
+    const HWND handle = place.make(QStringLiteral("former"));
+    QWidget dialog;
+    CWnd window;
+    CWnd control;
+    window.SetHandle(handleOf(&dialog));
+    control.SetHandle(handle);
+    control.Detach();
+    place.make(QStringLiteral("new"));
+
+    window.SetDlgItem(1, handle);
+    QVERIFY(!HWND(control));
+}
+
+void tst_CWndLifetime::handleThatIsNoAddress_data()
+{
+    QTest::addColumn<quintptr>("handle");
+    QTest::newRow("1") << quintptr(1);
+    QTest::newRow("0x1000") << quintptr(0x1000);
+    QTest::newRow("0xFFFF") << quintptr(0xFFFF);
+}
+
+void tst_CWndLifetime::handleThatIsNoAddress()
+{
+    QFETCH(quintptr, handle);
+    const HWND h = reinterpret_cast<HWND>(handle);
+    QWidget dialog;
+    CWnd parent;
+    parent.SetHandle(handleOf(&dialog));
+    QVERIFY(parent.SetDlgItem(1, h));
+    QVERIFY(!HWND(*parent.GetDlgItem(1)));
+
+    CWnd window;
+    QVERIFY(window.Attach(h));
+    QCOMPARE(window.GetSafeHwnd(), h);
+    QCOMPARE(CWnd::FromHandle(h), &window);
+    QVERIFY(!HWND(window));
 }
 
 void tst_CWndLifetime::boundObjectOfReusedAddress()

@@ -37,11 +37,7 @@ struct Arguments
 };
 
 // Null, and null plus the offset of a member or base; the last one is the guard's edge.
-#ifdef KX_ALIGNED_OBJECTS
-constexpr std::uintptr_t nullObjects[] = {0, 8, 4088};
-#else
 constexpr std::uintptr_t nullObjects[] = {0, 7, 8, 4088, 4095};
-#endif
 
 using Result = std::optional<qint64>;
 
