@@ -3,8 +3,10 @@
 #pragma once
 
 #include "KxApplication.h"
+#include "KxCollections.h"
 #include "KxDialogs.h"
 #include "KxDrawing.h"
+#include "KxFiles.h"
 #include "KxMessages.h"
 #include "KxRegistry.h"
 #include "KxString.h"
