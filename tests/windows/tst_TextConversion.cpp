@@ -3,6 +3,8 @@
 
 #include <QtTest/QtTest>
 
+Q_DECLARE_METATYPE(std::wstring)
+
 /// Texts go to Qt as QString::fromWCharArray() converts them, whatever way they take.
 class tst_TextConversion : public QObject
 {
@@ -66,8 +68,6 @@ void tst_TextConversion::everyCodePointAlone()
             QFAIL(qPrintable(QStringLiteral("U+%1").arg(uint(ch), 4, 16)));
     }
 }
-
-Q_DECLARE_METATYPE(std::wstring)
 
 QTEST_MAIN(tst_TextConversion)
 #include "tst_TextConversion.moc"
