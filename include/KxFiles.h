@@ -13,11 +13,15 @@
 #include <ctime>
 #include <memory>
 
-class CFileException;
 class QFile;
 class QFileInfo;
 struct CFileImpl;
 struct CStdioFileImpl;
+
+/// Accepted by CFile::Open() and ignored.
+class CFileException
+{
+};
 
 /// A point in time in whole seconds.
 class KX_MFC_EXPORT CTime
@@ -278,6 +282,8 @@ public:
     ~CSharedFile() override;
 
     /// Replaces the content by a copy of @p src. Unlike in MFC nothing is appended.
+    ///
+    /// The former block is not freed; it belongs to whoever kept its address. Write once, or Detach() first.
     ///
     /// The former content stays when @p src is null and @p count is not 0, or when there is no memory.
     /// @param src the data; owned by the caller.

@@ -179,14 +179,23 @@ public:
     void RemoveAll();
     /// @}
 
-private:
+protected:
+    /// A node of the list.
     struct CNode
     {
-        CNode *pNext;
-        CNode *pPrev;
-        CString data;
+        CNode *pNext; ///< The next one in the list or in the free list.
+        CNode *pPrev; ///< The one before.
+        CString data; ///< The string.
     };
 
+    CNode *m_pNodeHead = nullptr; ///< The first node; null when there is none.
+    CNode *m_pNodeTail = nullptr; ///< The last node; null when there is none.
+    INT_PTR m_nCount = 0;         ///< Nodes in the list.
+    CNode *m_pNodeFree = nullptr; ///< Nodes to hand out.
+    CPlex *m_pBlocks = nullptr;   ///< The blocks that hold all nodes.
+    INT_PTR m_nBlockSize;         ///< Nodes per block.
+
+private:
     static POSITION positionOf(CNode *node) { return reinterpret_cast<POSITION>(node); }
     static CNode *nodeAt(POSITION position) { return reinterpret_cast<CNode *>(position); }
 
@@ -213,11 +222,4 @@ private:
     inline void FreeNode(CNode *node);
     inline POSITION insert(CNode *previous, CNode *next, CString &&data);
     inline void unlink(CNode *node);
-
-    CNode *m_pNodeHead = nullptr;
-    CNode *m_pNodeTail = nullptr;
-    INT_PTR m_nCount = 0;
-    CNode *m_pNodeFree = nullptr;
-    CPlex *m_pBlocks = nullptr;
-    INT_PTR m_nBlockSize;
 };

@@ -108,18 +108,20 @@ public:
     void FreeAssoc(CAssoc *association);
     /// @}
 
+protected:
+    CAssoc **m_pHashTable = nullptr; ///< The buckets; null until first needed.
+    UINT m_nHashTableSize = 17;      ///< Number of buckets.
+    INT_PTR m_nCount = 0;            ///< Associations in use.
+    CAssoc *m_pFreeList = nullptr;   ///< Associations to hand out.
+    CPlex *m_pBlocks = nullptr;      ///< The blocks that hold all associations.
+    INT_PTR m_nBlockSize;            ///< Associations per block.
+
 private:
     inline UINT bucketOf(const wchar_t *key) const;
     inline CAssoc *find(const wchar_t *key, UINT bucket) const;
     inline CAssoc *firstFrom(UINT bucket) const;
     inline bool makeTable();
 
-    CAssoc **m_pHashTable = nullptr;
-    UINT m_nHashTableSize = 17;
-    INT_PTR m_nCount = 0;
-    CAssoc *m_pFreeList = nullptr;
-    CPlex *m_pBlocks = nullptr;
-    INT_PTR m_nBlockSize;
     void *m_refused = nullptr;
 };
 

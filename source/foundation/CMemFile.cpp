@@ -44,7 +44,7 @@ void CSharedFile::Write(unsigned char *src, unsigned count)
 
     if (count > 0)
         std::memcpy(block, src, count);
-    std::free(m_lpBuffer);
+    // The former block stays allocated: ported code that kept its address frees it.
     m_lpBuffer = block;
     m_nBufferSize = count;
 }

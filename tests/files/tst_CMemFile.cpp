@@ -38,6 +38,14 @@ static QByteArray bytesRead(CMemFile &file, unsigned count)
     return file.Read(dst, count) == dst ? bytes : QByteArrayLiteral("another address");
 }
 
+// Tells its block.
+class OpenSharedFile : public CSharedFile
+{
+public:
+    using CSharedFile::CSharedFile;
+    unsigned char *block() const { return m_lpBuffer; }
+};
+
 static void write(CSharedFile &file, const QByteArray &content)
 {
     QByteArray copy = content;
@@ -132,19 +140,25 @@ void tst_CMemFile::throughAFileThereIsNoFile()
 
 void tst_CMemFile::writeReplacesTheContent()
 {
-    CSharedFile file(0);
+    OpenSharedFile file(0);
     QCOMPARE(bytesRead(file, 8), QByteArray("........"));
     write(file, "first");
     QCOMPARE(bytesRead(file, 8), QByteArray("first..."));
+    unsigned char *former = file.block();
     write(file, "2nd");
     QCOMPARE(bytesRead(file, 8), QByteArray("2nd....."));
+    // Still there for whoever kept its address.
+    QCOMPARE(std::memcmp(former, "first", 5), 0);
+    std::free(former);
 }
 
 void tst_CMemFile::writeOfNothing()
 {
-    CSharedFile file;
+    OpenSharedFile file;
     write(file, "first");
+    unsigned char *former = file.block();
     file.Write(nullptr, 0);
+    std::free(former);
     QCOMPARE(bytesRead(file, 8), QByteArray("........"));
     HGLOBAL memory = file.Detach();
     QCOMPARE(static_cast<KxGlobalMemory *>(memory)->size, std::uint64_t{0});
