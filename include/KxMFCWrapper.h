@@ -4,6 +4,7 @@
 
 #include "KxApplication.h"
 #include "KxCollections.h"
+#include "KxControls.h"
 #include "KxDialogs.h"
 #include "KxDrawing.h"
 #include "KxFiles.h"
