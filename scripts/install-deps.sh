@@ -7,7 +7,7 @@ demo_packages=(g++ cmake ninja-build ccache qtbase5-dev libqt5gui5 fonts-dejavu-
 wayland_packages=("${demo_packages[@]}" qtwayland5)
 test_packages=("${demo_packages[@]}"
     clang lld llvm libclang-rt-14-dev clang-format clang-tidy
-    xvfb openbox x11-utils libbenchmark-dev doxygen)
+    xvfb openbox x11-utils poppler-utils libbenchmark-dev doxygen)
 
 missing_packages()
 {
