@@ -8,6 +8,7 @@
 #include "KxDialogs.h"
 #include "KxDrawing.h"
 #include "KxFiles.h"
+#include "KxGeometry.h"
 #include "KxMessages.h"
 #include "KxRegistry.h"
 #include "KxString.h"

@@ -2,6 +2,7 @@
 /// @brief CWnd, the window object, and the registry of window handles.
 #pragma once
 
+#include "KxGeometry.h"
 #include "KxString.h"
 #include "KxWinTypes.h"
 
