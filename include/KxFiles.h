@@ -48,6 +48,25 @@ public:
     /// @return seconds since the epoch.
     std::time_t GetTime() const { return m_time; }
 
+    /// @name Comparison by the seconds since the epoch
+    /// @{
+    bool operator==(CTime time) const
+    {
+        return m_time == time.m_time;
+    } ///< @return whether both are the same.
+    bool operator!=(CTime time) const { return m_time != time.m_time; } ///< @return whether they differ.
+    bool operator<(CTime time) const { return m_time < time.m_time; }   ///< @return whether this is earlier.
+    bool operator>(CTime time) const { return m_time > time.m_time; }   ///< @return whether this is later.
+    bool operator<=(CTime time) const
+    {
+        return m_time <= time.m_time;
+    } ///< @return whether this is not later.
+    bool operator>=(CTime time) const
+    {
+        return m_time >= time.m_time;
+    } ///< @return whether this is not earlier.
+    /// @}
+
 private:
     std::int64_t m_time = 0;
 };

@@ -18,6 +18,8 @@ private Q_SLOTS:
     void localTime();
     void outOfRange_data();
     void outOfRange();
+    void comparison_data();
+    void comparison();
 
 private:
     static void useZone(const char *zone);
@@ -103,6 +105,32 @@ void tst_CTime::outOfRange()
     QFETCH(int, year);
     QFETCH(int, month);
     QCOMPARE(qint64{CTime(year, month, 1, 0, 0, 0).GetTime()}, qint64{-1});
+}
+
+void tst_CTime::comparison_data()
+{
+    QTest::addColumn<qint64>("first");
+    QTest::addColumn<qint64>("second");
+
+    QTest::newRow("equal") << qint64{5} << qint64{5};
+    QTest::newRow("earlier") << qint64{4} << qint64{5};
+    QTest::newRow("later") << qint64{5} << qint64{4};
+    QTest::newRow("before the epoch") << qint64{-5} << qint64{4};
+    QTest::newRow("beyond 32 bits") << qint64{1} << (qint64{1} << 40);
+}
+
+void tst_CTime::comparison()
+{
+    QFETCH(qint64, first);
+    QFETCH(qint64, second);
+    const CTime time(first);
+    const CTime other(second);
+    QCOMPARE(time == other, first == second);
+    QCOMPARE(time != other, first != second);
+    QCOMPARE(time < other, first < second);
+    QCOMPARE(time > other, first > second);
+    QCOMPARE(time <= other, first <= second);
+    QCOMPARE(time >= other, first >= second);
 }
 
 QTEST_GUILESS_MAIN(tst_CTime)
