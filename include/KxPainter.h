@@ -4,6 +4,7 @@
 /// Nothing here owns the paint device that it draws on: its owner keeps it alive as long as the wrapper.
 #pragma once
 
+#include "KxGeometry.h"
 #include "KxWinTypes.h"
 
 #include <Qt>

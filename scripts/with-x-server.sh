@@ -38,6 +38,9 @@ export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$scratch}
 # A window manager may still ask about a window that has just closed, which Qt reports as an X error.
 export QT_LOGGING_RULES=${QT_LOGGING_RULES:-qt.qpa.xcb.warning=false}
 
+# Nothing here draws with OpenGL, and the drivers that Qt would load for it leak.
+export QT_XCB_GL_INTEGRATION=${QT_XCB_GL_INTEGRATION:-none}
+
 # A home of its own keeps the user's window manager settings out of the tests.
 HOME=$scratch XDG_CONFIG_HOME=$scratch openbox --sm-disable >"$scratch/openbox.log" 2>&1 &
 started+=($!)
