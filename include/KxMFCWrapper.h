@@ -3,11 +3,13 @@
 #pragma once
 
 #include "KxApplication.h"
+#include "KxClipboard.h"
 #include "KxCollections.h"
 #include "KxDialogs.h"
 #include "KxDrawing.h"
 #include "KxFiles.h"
 #include "KxMessages.h"
+#include "KxPathNames.h"
 #include "KxRegistry.h"
 #include "KxString.h"
 #include "KxUser32.h"
