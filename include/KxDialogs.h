@@ -2,6 +2,7 @@
 /// @brief Dialogs, the Qt dialog that hosts them, and dialog data exchange.
 #pragma once
 
+#include "KxFileDialogs.h"
 #include "KxWindows.h"
 
 #include <QDialog>

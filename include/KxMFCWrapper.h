@@ -3,6 +3,7 @@
 #pragma once
 
 #include "KxApplication.h"
+#include "KxClipboard.h"
 #include "KxCollections.h"
 #include "KxControls.h"
 #include "KxDialogs.h"
@@ -11,6 +12,7 @@
 #include "KxGeometry.h"
 #include "KxMessageConstants.h"
 #include "KxMessages.h"
+#include "KxPathNames.h"
 #include "KxRegistry.h"
 #include "KxString.h"
 #include "KxStyleConstants.h"

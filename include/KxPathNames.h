@@ -1,0 +1,6 @@
+/// @file KxPathNames.h
+/// @brief Path names, and the volumes that they lie on.
+#pragma once
+
+#include "KxPathName.h"
+#include "KxVolumes.h"

@@ -1,0 +1,20 @@
+#include "ClipboardStore.h"
+#include "KxClipboard.h"
+#include "KxFiles.h"
+
+#include <QMimeData>
+
+void COleDataSource::CacheGlobalData(unsigned format, HGLOBAL hGlobal)
+{
+    if (!hGlobal)
+        return;
+    // Ported code sees the number in its enumerations from now on, registered or not.
+    const CString &name = g_mapCF[int(format)];
+    const QString mimeType = mimeTypeOf(name.c_str());
+    if (name.IsEmpty() || !g_clipboardData.hasFormat(mimeType) || !heldRecords().insert(hGlobal).second)
+        return;
+
+    releaseRecord(mimeType);
+    const auto *record = static_cast<const char *>(hGlobal);
+    g_clipboardData.setData(mimeType, QByteArray::fromRawData(record, sizeof(KxGlobalMemory)));
+}

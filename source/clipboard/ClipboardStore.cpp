@@ -1,0 +1,34 @@
+#include "ClipboardStore.h"
+
+#include "KxClipboard.h"
+#include "KxFiles.h"
+#include "foundation/QtConversions.h"
+
+#include <QMimeData>
+
+#include <cstdlib>
+
+QString mimeTypeOf(const wchar_t *name)
+{
+    // Under its own name for lists of URLs Qt keeps no bytes. No format's name has a null in it.
+    const QString mimeType = toQString(name);
+    return mimeType == QLatin1String("text/uri-list") ? mimeType + QChar(u'\0') : mimeType;
+}
+
+void *recordIn(const QByteArray &bytes)
+{
+    return const_cast<char *>(bytes.constData());
+}
+
+void releaseRecord(const QString &mimeType)
+{
+    const QByteArray bytes = g_clipboardData.data(mimeType);
+    if (bytes.isEmpty())
+        return;
+
+    auto *record = static_cast<KxGlobalMemory *>(recordIn(bytes));
+    heldRecords().erase(record);
+    g_clipboardData.setData(mimeType, QByteArray());
+    std::free(record->block);
+    std::free(record);
+}
