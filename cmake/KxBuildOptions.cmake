@@ -12,7 +12,8 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 
 find_program(KX_CCACHE ccache)
 if(KX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${KX_CCACHE}")
+    # What ccache asks for to store what was compiled with precompiled headers.
+    set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros "${KX_CCACHE}")
 endif()
 
 add_library(kx_build_options INTERFACE)

@@ -10,6 +10,11 @@
 class KX_MFC_EXPORT CButton : public CWnd
 {
 public:
+    /// Makes an unbound button without a logical parent.
+    CButton();
+    /// Leaves the widget alone.
+    ~CButton() override;
+
     /// @return BST_CHECKED when the button is checked, a partially checked box included, else BST_UNCHECKED;
     /// never BST_INDETERMINATE. Unbound: 0.
     int GetCheck() const;
@@ -34,6 +39,11 @@ public:
 class KX_MFC_EXPORT CBitmapButton : public CButton
 {
 public:
+    /// Makes an unbound button without a logical parent.
+    CBitmapButton();
+    /// Leaves the widget alone.
+    ~CBitmapButton() override;
+
     /// @name Fixed results
     /// No counterpart on this platform: these load nothing, and give the same result for every object, bound,
     /// unbound or null.

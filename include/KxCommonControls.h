@@ -35,6 +35,11 @@ static_assert(offsetof(TCITEMW, iImage) == 28 && offsetof(TCITEMW, lParam) == 32
 class KX_MFC_EXPORT CTabCtrl : public CWnd
 {
 public:
+    /// Makes an unbound tab control without a logical parent.
+    CTabCtrl();
+    /// Leaves the widget alone.
+    ~CTabCtrl() override;
+
     /// @return the 0-based index of the current tab; -1 when there are no tabs; unbound: 0.
     int GetCurSel() const;
     /// Same as GetCurSel().
@@ -82,6 +87,11 @@ public:
 class KX_MFC_EXPORT CSliderCtrl : public CWnd
 {
 public:
+    /// Makes an unbound slider without a logical parent.
+    CSliderCtrl();
+    /// Leaves the widget alone.
+    ~CSliderCtrl() override;
+
     /// @return the position of the handle, which differs from the value while it is dragged without tracking;
     /// unbound: 0.
     int GetPos() const;
@@ -127,6 +137,11 @@ public:
 class KX_MFC_EXPORT CScrollBar : public CWnd
 {
 public:
+    /// Makes an unbound scroll bar without a logical parent.
+    CScrollBar();
+    /// Leaves the widget alone.
+    ~CScrollBar() override;
+
     /// Sets the value, with the widget's signals, to @p nPos bounded to the range.
     /// @param bRedraw ignored.
     /// @return the former value; unbound: 0.
@@ -149,6 +164,11 @@ public:
 class KX_MFC_EXPORT CSpinButtonCtrl : public CWnd
 {
 public:
+    /// Makes an unbound spin button without a logical parent.
+    CSpinButtonCtrl();
+    /// Leaves the widget alone.
+    ~CSpinButtonCtrl() override;
+
     /// @name Fixed results
     /// No counterpart on this platform: the same for every object, bound, unbound or null.
     /// @{
@@ -165,6 +185,11 @@ public:
 class KX_MFC_EXPORT CToolTipCtrl : public CWnd
 {
 public:
+    /// Makes an unbound tool tip control without a logical parent.
+    CToolTipCtrl();
+    /// Leaves the widget alone.
+    ~CToolTipCtrl() override;
+
     using CWnd::Create;
 
     /// @name Fixed results

@@ -12,6 +12,11 @@
 class KX_MFC_EXPORT CEdit : public CWnd
 {
 public:
+    /// Makes an unbound edit control without a logical parent.
+    CEdit();
+    /// Leaves the widget alone.
+    ~CEdit() override;
+
     /// @return the length in characters of the text that GetWindowTextW() reads, thus 0 for a QTextEdit;
     /// unbound: 0.
     int GetWindowTextLengthW();
@@ -70,6 +75,11 @@ public:
 class KX_MFC_EXPORT CRichEditCtrl : public CEdit
 {
 public:
+    /// Makes an unbound rich edit control without a logical parent.
+    CRichEditCtrl();
+    /// Leaves the widget alone.
+    ~CRichEditCtrl() override;
+
     /// @name Fixed results
     /// No counterpart on this platform: the same for every object, bound, unbound or null.
     /// @{
@@ -82,6 +92,11 @@ public:
 class KX_MFC_EXPORT CStatic : public CWnd
 {
 public:
+    /// Makes an unbound static control without a logical parent.
+    CStatic();
+    /// Leaves the widget alone.
+    ~CStatic() override;
+
     /// Shows a picture in the QLabel in place of its text.
     /// @param hBitmap a handle of the platform's GDI objects, copied: it may be deleted afterwards. One that
     /// is of no live bitmap changes nothing.

@@ -11,6 +11,7 @@
 /// that fills a list does not hear itself; each operation says so. A null text counts as an empty one.
 ///
 /// **Unbound.** Every operation gives 0, changes nothing and writes nothing when no QComboBox is bound.
+/// A null object that is not at address 0 gives its address, as in CWnd.
 ///
 /// **Item data** is one pointer-sized value under Qt::UserRole. Integers and pointers are the same value, as
 /// in MFC. It is not owned: nothing frees it.
@@ -132,6 +133,7 @@ public:
 /// CComboBox. A null text counts as an empty one.
 ///
 /// **Unbound.** Every operation gives 0, changes nothing and writes nothing when no QListWidget is bound.
+/// A null object that is not at address 0 gives its address, as in CWnd.
 ///
 /// **Item data** is kept under Qt::UserRole as an unsigned 64-bit integer or as a pointer. Each form reads
 /// what its own setter stored: read integers with GetItemData() and pointers with GetItemDataPtr(). It is not

@@ -152,7 +152,7 @@ static_assert(offsetof(TVINSERTSTRUCTW, itemex) == 16 && sizeof(TVINSERTSTRUCTW)
 /// empty one.
 ///
 /// **Unbound.** Every operation gives 0, null or an empty text, changes nothing and writes nothing when no
-/// QTreeWidget is bound.
+/// QTreeWidget is bound. A null object that is not at address 0 gives its address, as in CWnd.
 ///
 /// **Items** are not checked: apart from null, an item has to be a living one.
 class KX_MFC_EXPORT CTreeCtrl : public CWnd

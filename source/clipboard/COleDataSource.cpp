@@ -11,7 +11,8 @@ void COleDataSource::CacheGlobalData(unsigned format, HGLOBAL hGlobal)
     // Ported code sees the number in its enumerations from now on, registered or not.
     const CString &name = g_mapCF[int(format)];
     const QString mimeType = mimeTypeOf(name.c_str());
-    if (name.IsEmpty() || !g_clipboardData.hasFormat(mimeType) || !heldRecords().insert(hGlobal).second)
+    if (name.IsEmpty() || !g_clipboardData.hasFormat(mimeType) ||
+        !heldRecords().add(static_cast<KxGlobalMemory *>(hGlobal)))
         return;
 
     releaseRecord(mimeType);

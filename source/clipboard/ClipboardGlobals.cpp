@@ -3,15 +3,15 @@
 
 #include <QMimeData>
 
-static std::set<const void *> records;
+static HeldRecords records;
 
-// Destroyed in reverse order: the clipboard frees what the store holds.
+// Destroyed in reverse order: an attached clipboard frees what the store holds; the records free the rest.
 QMimeData g_clipboardData;
 std::map<int, CString> g_mapCF;
 KxPlatformClipboard g_platformClipboard;
 int g_iCFIndex = 3456;
 
-std::set<const void *> &heldRecords()
+HeldRecords &heldRecords()
 {
     return records;
 }

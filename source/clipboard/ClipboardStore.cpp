@@ -15,9 +15,27 @@ QString mimeTypeOf(const wchar_t *name)
     return mimeType == QLatin1String("text/uri-list") ? mimeType + QChar(u'\0') : mimeType;
 }
 
-void *recordIn(const QByteArray &bytes)
+static void freeMemory(KxGlobalMemory *record)
 {
-    return const_cast<char *>(bytes.constData());
+    std::free(record->block);
+    std::free(record);
+}
+
+HeldRecords::~HeldRecords()
+{
+    for (KxGlobalMemory *record : m_records)
+        freeMemory(record);
+}
+
+void HeldRecords::release(KxGlobalMemory *record)
+{
+    m_records.erase(record);
+    freeMemory(record);
+}
+
+KxGlobalMemory *recordIn(const QByteArray &bytes)
+{
+    return reinterpret_cast<KxGlobalMemory *>(const_cast<char *>(bytes.constData()));
 }
 
 void releaseRecord(const QString &mimeType)
@@ -26,9 +44,6 @@ void releaseRecord(const QString &mimeType)
     if (bytes.isEmpty())
         return;
 
-    auto *record = static_cast<KxGlobalMemory *>(recordIn(bytes));
-    heldRecords().erase(record);
     g_clipboardData.setData(mimeType, QByteArray());
-    std::free(record->block);
-    std::free(record);
+    heldRecords().release(recordIn(bytes));
 }

@@ -7,15 +7,34 @@
 #include <set>
 
 class QByteArray;
+struct KxGlobalMemory;
+
+/// Records in the store, which are freed in the end if no clipboard did it.
+class HeldRecords
+{
+public:
+    HeldRecords() = default;
+    HeldRecords(const HeldRecords &) = delete;
+    HeldRecords &operator=(const HeldRecords &) = delete;
+    ~HeldRecords();
+
+    /// Whether the record is new here.
+    bool add(KxGlobalMemory *record) { return m_records.insert(record).second; }
+    /// Frees a record and its block.
+    void release(KxGlobalMemory *record);
+
+private:
+    std::set<KxGlobalMemory *> m_records;
+};
 
 /// The records that the store holds.
-std::set<const void *> &heldRecords();
+HeldRecords &heldRecords();
 
 /// The MIME type under which the store keeps the format of this name.
 QString mimeTypeOf(const wchar_t *name);
 
 /// The record behind the bytes of a format.
-void *recordIn(const QByteArray &bytes);
+KxGlobalMemory *recordIn(const QByteArray &bytes);
 
 /// Frees what the store holds under a MIME type, which stays registered.
 void releaseRecord(const QString &mimeType);

@@ -4,6 +4,10 @@
 
 #include <QAbstractButton>
 
+CButton::CButton() = default;
+
+CButton::~CButton() = default;
+
 int CButton::GetCheck() const
 {
     const auto *button = boundWidget<QAbstractButton>(this);
@@ -37,6 +41,10 @@ HICON CButton::SetIcon(HICON)
 {
     return nullptr;
 }
+
+CBitmapButton::CBitmapButton() = default;
+
+CBitmapButton::~CBitmapButton() = default;
 
 BOOL CBitmapButton::LoadBitmaps(const wchar_t *, const wchar_t *, const wchar_t *, const wchar_t *)
 {

@@ -16,6 +16,10 @@ template <typename... Widgets> static bool isBoundToOneOf(const CWnd *window)
     return (qobject_cast<const Widgets *>(widget) || ...);
 }
 
+CEdit::CEdit() = default;
+
+CEdit::~CEdit() = default;
+
 // An edit control takes fewer kinds of widgets than a window, and does the same with them.
 void CEdit::SetWindowTextW(const wchar_t *lpszString)
 {
@@ -99,6 +103,10 @@ void CEdit::Copy() {}
 void CEdit::Cut() {}
 
 void CEdit::Paste() {}
+
+CRichEditCtrl::CRichEditCtrl() = default;
+
+CRichEditCtrl::~CRichEditCtrl() = default;
 
 DWORD CRichEditCtrl::SetEventMask(unsigned)
 {

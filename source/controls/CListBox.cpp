@@ -5,6 +5,8 @@
 #include <QListWidget>
 #include <QPointer>
 
+#include <memory>
+
 CListBox::CListBox() = default;
 
 CListBox::~CListBox() = default;
@@ -57,8 +59,9 @@ int CListBox::AddString(const wchar_t *lpszItem)
     auto *list = boundWidget<QListWidget>(this);
     if (!list)
         return withoutWidget<int>(this);
+    const int row = list->count();
     list->addItem(toQString(lpszItem).simplified());
-    return list->count() - 1;
+    return row;
 }
 
 int CListBox::InsertString(int nIndex, const wchar_t *lpszItem)
@@ -72,12 +75,12 @@ int CListBox::InsertString(int nIndex, const wchar_t *lpszItem)
 
 int CListBox::DeleteString(unsigned nIndex)
 {
-    auto *list = boundWidget<QListWidget>(this);
+    const QPointer<QListWidget> list = boundWidget<QListWidget>(this);
     if (!list)
         return withoutWidget<int>(this);
-    QListWidgetItem *item = list->takeItem(int(nIndex));
-    list->removeItemWidget(item);
-    delete item;
+    const std::unique_ptr<QListWidgetItem> item(list->takeItem(int(nIndex)));
+    if (list)
+        list->removeItemWidget(item.get());
     return int(nIndex);
 }
 

@@ -64,8 +64,10 @@ BOOL CListCtrl::GetItem(LVITEMW *item) const
 static void insertRow(const QPointer<QTableWidget> &table, int row, int columns, const QString &text)
 {
     table->insertRow(row);
+    // A sorted table moves the row as soon as its cell of the sort column is there.
+    const QPersistentModelIndex first = table ? table->model()->index(row, 0) : QModelIndex();
     for (int column = 0; table && column < columns; ++column)
-        setCell(table, row, column, std::make_unique<QTableWidgetItem>(text));
+        setCell(table, first.row(), column, std::make_unique<QTableWidgetItem>(text));
 }
 
 int CListCtrl::InsertItem(int nItem, const wchar_t *text, int)
@@ -202,7 +204,7 @@ template <typename Item> static void setData(Item *item, qulonglong data)
         item->setData(Qt::UserRole, data);
 }
 
-static BOOL setData(QAbstractItemModel *model, int row, qulonglong data)
+static BOOL setModelData(QAbstractItemModel *model, int row, qulonglong data)
 {
     if (!model)
         return FALSE;
@@ -224,7 +226,7 @@ BOOL CListCtrl::SetItemData(int nItem, unsigned long data)
     else if (bound.table)
         setData(bound.table->item(nItem, 0), data);
     else if (bound.view)
-        return setData(bound.view->model(), nItem, data);
+        return setModelData(bound.view->model(), nItem, data);
     return TRUE;
 }
 

@@ -1,6 +1,17 @@
 #include "KxListControl.h"
 #include "ListWidgets.h"
 
+#include <algorithm>
+
+// Whether the row is one of selectedRows(0), without making that list.
+static bool isSelected(const QItemSelectionModel *selection, int row)
+{
+    const QItemSelection ranges = selection->selection();
+    return std::any_of(ranges.begin(), ranges.end(), [=](const QItemSelectionRange &range) {
+        return row >= range.top() && row <= range.bottom() && selection->isRowSelected(row, range.parent());
+    });
+}
+
 static bool isSelected(const BoundSelection &bound, int row)
 {
     if (bound.list) {
@@ -11,7 +22,7 @@ static bool isSelected(const BoundSelection &bound, int row)
         const auto *item = bound.table->item(row, 0);
         return item && item->isSelected();
     }
-    return bound.view && bound.view->selectionModel()->isRowSelected(row, bound.view->rootIndex());
+    return bound.view && isSelected(bound.view->selectionModel(), row);
 }
 
 UINT CListCtrl::GetItemState(int nItem, unsigned nMask) const

@@ -9,6 +9,10 @@ static void setBoundRange(const CWnd *window, int min, int max)
         slider->setRange(min, max);
 }
 
+CSliderCtrl::CSliderCtrl() = default;
+
+CSliderCtrl::~CSliderCtrl() = default;
+
 int CSliderCtrl::GetPos() const
 {
     const auto *slider = boundWidget<QAbstractSlider>(this);
@@ -105,6 +109,10 @@ BOOL CSliderCtrl::SetTic(int)
 void CSliderCtrl::GetChannelRect(RECT *) const {}
 
 void CSliderCtrl::GetThumbRect(RECT *) const {}
+
+CScrollBar::CScrollBar() = default;
+
+CScrollBar::~CScrollBar() = default;
 
 int CScrollBar::SetScrollPos(int nPos, bool)
 {

@@ -4,6 +4,10 @@
 
 #include <QLabel>
 
+CStatic::CStatic() = default;
+
+CStatic::~CStatic() = default;
+
 BOOL CStatic::Create(const wchar_t *lpszText, unsigned dwStyle, const RECT &rect, CWnd *pParentWnd,
                      unsigned nID)
 {

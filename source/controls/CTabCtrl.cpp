@@ -1,9 +1,13 @@
 #include "KxCommonControls.h"
+#include "SignalSilencer.h"
 #include "foundation/QtConversions.h"
 #include "windows/KxGuard.h"
 
-#include <QSignalBlocker>
 #include <QTabWidget>
+
+CTabCtrl::CTabCtrl() = default;
+
+CTabCtrl::~CTabCtrl() = default;
 
 int CTabCtrl::GetCurSel() const
 {
@@ -40,7 +44,7 @@ int CTabCtrl::SetActiveTab(int nItem)
         return 0;
     const int previous = tabs->currentIndex();
     // Unlike with SetCurSel(), the handlers of a change are not told.
-    const QSignalBlocker blocker(tabs);
+    const SignalSilencer silencer(tabs);
     tabs->setCurrentIndex(nItem);
     return previous;
 }
@@ -52,7 +56,7 @@ void CTabCtrl::AddTab(int nIndex, int nTextID, int, CWnd *pPage)
         return;
     CString text;
     text.LoadStringW(unsigned(nTextID));
-    const QSignalBlocker blocker(tabs);
+    const SignalSilencer silencer(tabs);
     tabs->insertTab(nIndex, handleWidget(pPage), toQString(text));
 }
 

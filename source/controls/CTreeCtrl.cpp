@@ -29,13 +29,6 @@ static HTREEITEM sibling(const QTreeWidget *tree, HTREEITEM item, int distance)
     return item->parent()->child(indexOf(tree, item).row() + distance);
 }
 
-static HTREEITEM newItem(const wchar_t *text)
-{
-    auto *item = new QTreeWidgetItem;
-    item->setText(0, toQString(text));
-    return item;
-}
-
 UINT CTreeCtrl::GetCount() const
 {
     const auto *tree = boundWidget<QTreeWidget>(this);
@@ -132,13 +125,10 @@ HTREEITEM CTreeCtrl::InsertItem(TVINSERTSTRUCTW *pInsert)
         return withoutWidget<HTREEITEM>(this);
     if (!pInsert)
         return nullptr;
-    auto *item = newItem(pInsert->item.pszText);
-    item->setData(0, Qt::UserRole, QVariant(qulonglong(pInsert->item.lParam)));
     // Only a null parent is the root of a record; of a text, TVI_ROOT is.
-    if (pInsert->hParent)
-        pInsert->hParent->addChild(item);
-    else
-        tree->addTopLevelItem(item);
+    auto *item = pInsert->hParent ? new QTreeWidgetItem(pInsert->hParent) : new QTreeWidgetItem(tree);
+    item->setText(0, toQString(pInsert->item.pszText));
+    item->setData(0, Qt::UserRole, QVariant(qulonglong(pInsert->item.lParam)));
     return item;
 }
 
@@ -149,12 +139,8 @@ HTREEITEM CTreeCtrl::InsertItem(const wchar_t *lpszItem, HTREEITEM hParent, HTRE
         return withoutWidget<HTREEITEM>(this);
     if (!hParent)
         return nullptr;
-    auto *item = newItem(lpszItem);
-    if (hParent == TVI_ROOT)
-        tree->addTopLevelItem(item);
-    else
-        hParent->addChild(item);
-    return item;
+    const QStringList texts(toQString(lpszItem));
+    return hParent == TVI_ROOT ? new QTreeWidgetItem(tree, texts) : new QTreeWidgetItem(hParent, texts);
 }
 
 BOOL CTreeCtrl::DeleteItem(HTREEITEM hItem)

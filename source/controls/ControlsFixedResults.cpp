@@ -1,5 +1,9 @@
 #include "KxCommonControls.h"
 
+CSpinButtonCtrl::CSpinButtonCtrl() = default;
+
+CSpinButtonCtrl::~CSpinButtonCtrl() = default;
+
 CWnd *CSpinButtonCtrl::SetBuddy(CWnd *)
 {
     return nullptr;
@@ -23,6 +27,10 @@ int CSpinButtonCtrl::GetPos() const
 void CSpinButtonCtrl::SetRange(short, short) {}
 
 void CSpinButtonCtrl::SetRange32(int, int) {}
+
+CToolTipCtrl::CToolTipCtrl() = default;
+
+CToolTipCtrl::~CToolTipCtrl() = default;
 
 BOOL CToolTipCtrl::Create(CWnd *, unsigned)
 {

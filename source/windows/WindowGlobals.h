@@ -6,6 +6,5 @@
 
 class CWnd;
 
-/// The living wrappers that CreateCWndByHandle() made. Many live until the process exits; the set outlives
-/// them all.
+/// The living wrappers that the library made. Many live until the process exits; the set outlives them all.
 std::set<CWnd *> &libraryWrappers();

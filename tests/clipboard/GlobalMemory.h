@@ -2,7 +2,7 @@
 
 #include "KxFiles.h"
 
-#include <QtCore/QByteArray>
+#include <QByteArray>
 
 #include <cstdlib>
 

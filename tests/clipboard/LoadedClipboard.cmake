@@ -5,6 +5,6 @@ target_include_directories(tst_LoadedClipboard PRIVATE
 target_compile_definitions(tst_LoadedClipboard PRIVATE KX_LIBRARY="$<TARGET_FILE:KxMFCWrapper>")
 target_link_libraries(tst_LoadedClipboard PRIVATE kx_build_options ${CMAKE_DL_LIBS})
 add_dependencies(tst_LoadedClipboard KxMFCWrapper)
-foreach(way leave unload again)
+foreach(way leave unattached unload again)
     add_test(NAME tst_LoadedClipboard-${way} COMMAND tst_LoadedClipboard ${way})
 endforeach()

@@ -2,9 +2,9 @@
 #include "KxClipboard.h"
 #include "SanitizedMemory.h"
 
-#include <QtCore/QMimeData>
-#include <QtCore/QUrl>
-#include <QtTest/QtTest>
+#include <QMimeData>
+#include <QUrl>
+#include <QtTest>
 
 #include <malloc.h>
 

@@ -1,8 +1,8 @@
 #include "GlobalMemory.h"
 #include "KxClipboard.h"
 
-#include <QtCore/QMimeData>
-#include <QtTest/QtTest>
+#include <QMimeData>
+#include <QtTest>
 
 #include <climits>
 #include <cstring>

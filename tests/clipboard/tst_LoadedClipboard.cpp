@@ -11,8 +11,8 @@
 #include <cstring>
 
 // Loads the library with the dynamic loader, leaves data on the clipboard, and then leaves the process in the
-// way that the argument names: "leave" leaves the library loaded, "unload" unloads it first, "again" does all
-// of it once more. A block as large as this one is mapped by itself, so that it shows when it is freed.
+// way that the argument names: "leave" leaves the library loaded, "unattached" does so without having attached
+// to the clipboard, "unload" unloads it first, "again" does all of it once more. A block as large as this one is mapped by itself, so that it shows when it is freed.
 
 namespace {
 constexpr std::size_t blockSize = 40'000'000;
@@ -41,7 +41,7 @@ void *newHandle(void *data)
 
 // RegisterClipboardFormatW(name), COleDataSource().CacheGlobalData(format, handle) and
 // g_platformClipboard.attachClipboard(). Nothing else registers a format, in any load of the library.
-void useClipboard(void *library)
+void useClipboard(void *library, bool attach)
 {
     const unsigned format =
         functionOf<unsigned(const wchar_t *)>(library, "_Z24RegisterClipboardFormatWPKw")(L"a format");
@@ -52,20 +52,22 @@ void useClipboard(void *library)
     functionOf<void(void *, unsigned, void *)>(library, "_ZN14COleDataSource15CacheGlobalDataEjPv")(
         &source, format, newHandle(block));
     CHECK(!isFreed());
+    if (!attach)
+        return;
 
     void *clipboard = dlsym(library, "g_platformClipboard");
     CHECK(clipboard);
     CHECK(functionOf<bool(void *)>(library, "_ZN19KxPlatformClipboard15attachClipboardEv")(clipboard));
 }
 
-void *loadAndUse()
+void *loadAndUse(bool attach = true)
 {
     void *library = dlopen(KX_LIBRARY, RTLD_NOW | RTLD_LOCAL);
     if (!library) {
         std::fprintf(stderr, "%s\n", dlerror());
         std::exit(EXIT_FAILURE);
     }
-    useClipboard(library);
+    useClipboard(library, attach);
     return library;
 }
 
@@ -81,8 +83,9 @@ __attribute__((destructor)) void checkAtTheEnd()
 int main(int count, char **arguments)
 {
     const char *way = count > 1 ? arguments[1] : "leave";
-    void *library = loadAndUse();
-    if (std::strcmp(way, "leave") == 0)
+    const bool attach = std::strcmp(way, "unattached") != 0;
+    void *library = loadAndUse(attach);
+    if (!attach || std::strcmp(way, "leave") == 0)
         return EXIT_SUCCESS;
 
     CHECK(dlclose(library) == 0);

@@ -3,11 +3,11 @@
 
 #include "WidgetWatch.h"
 
-#include <QtCore/QStringList>
-#include <QtCore/QVariant>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QTreeWidget>
+#include <QComboBox>
+#include <QListWidget>
+#include <QStringList>
+#include <QTreeWidget>
+#include <QVariant>
 
 /// Data of an item with the type it is stored as; "-" when there is none.
 inline QString dataText(const QVariant &data)

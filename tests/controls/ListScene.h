@@ -5,13 +5,13 @@
 #include "WidgetWatch.h"
 #include "WindowHandle.h"
 
-#include <QtCore/QItemSelectionModel>
-#include <QtCore/QStringListModel>
-#include <QtGui/QStandardItemModel>
-#include <QtTest/QtTest>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QTableWidget>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QListWidget>
+#include <QStandardItemModel>
+#include <QStringListModel>
+#include <QTableWidget>
+#include <QtTest>
 
 #include <functional>
 #include <memory>

@@ -5,13 +5,13 @@
 #include "LeftBehind.h"
 #include "WidgetWatch.h"
 
-#include <QtGui/QPainter>
-#include <QtTest/QtTest>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QGroupBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
 
 #include <climits>
 #include <memory>

@@ -3,7 +3,7 @@
 #include "KxListBoxes.h"
 #include "LeftBehind.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <climits>
 #include <functional>

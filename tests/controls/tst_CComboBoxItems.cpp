@@ -5,9 +5,9 @@
 #include "SilentOffscreen.h"
 #include "VirtualSlot.h"
 
-#include <QtGui/QStandardItemModel>
-#include <QtTest/QtTest>
-#include <QtWidgets/QAbstractItemView>
+#include <QAbstractItemView>
+#include <QStandardItemModel>
+#include <QtTest>
 
 #include <climits>
 #include <cwchar>

@@ -3,12 +3,12 @@
 #include "LeftBehind.h"
 #include "WidgetWatch.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QDateEdit>
-#include <QtWidgets/QDoubleSpinBox>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QSpinBox>
-#include <QtWidgets/QTextEdit>
+#include <QDateEdit>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTextEdit>
+#include <QtTest>
 
 #include <climits>
 #include <cwchar>

@@ -3,8 +3,8 @@
 #include "KxListBoxes.h"
 #include "LeftBehind.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QLabel>
+#include <QLabel>
+#include <QtTest>
 
 #include <climits>
 #include <memory>
@@ -72,6 +72,7 @@ private Q_SLOTS:
     void selectStringWhileItemsGo();
     void selectStringWhileItemsCome();
     void selectStringWhileTheListGoes();
+    void changesWhileTheListGoes();
 
     void itemData();
     void outOfRange_data();
@@ -382,6 +383,25 @@ void tst_CListBox::selectStringWhileTheListGoes()
     connect(widget, &QListWidget::currentRowChanged, this, [widget] { delete widget; });
     QCOMPARE(control.SelectString(-1, L"x"), 0);
     QCOMPARE(control.GetCount(), 0);
+}
+
+void tst_CListBox::changesWhileTheListGoes()
+{
+    CListBox control;
+    auto *widget = new QListWidget;
+    control.SetHandle(handleOf(widget));
+    widget->addItem(QStringLiteral("x"));
+    connect(widget->model(), &QAbstractItemModel::rowsInserted, this, [widget] { delete widget; });
+    QCOMPARE(control.AddString(L"y"), 1);
+    QCOMPARE(control.GetCount(), 0);
+
+    CListBox other;
+    widget = new QListWidget;
+    other.SetHandle(handleOf(widget));
+    widget->addItem(QStringLiteral("x"));
+    connect(widget->model(), &QAbstractItemModel::rowsRemoved, this, [widget] { delete widget; });
+    QCOMPARE(other.DeleteString(0), 0);
+    QCOMPARE(other.GetCount(), 0);
 }
 
 void tst_CListBox::itemData()

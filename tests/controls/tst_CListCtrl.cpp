@@ -3,8 +3,8 @@
 #include "ListScene.h"
 #include "VirtualSlot.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QHeaderView>
+#include <QHeaderView>
+#include <QtTest>
 
 #include <memory>
 #include <utility>
@@ -149,6 +149,8 @@ private Q_SLOTS:
     void slotRemovesCell_data();
     void slotRemovesCell();
     void sortedTable();
+    void insertIntoSortedTable();
+    void tableGoesWhileItsRowsGo();
 
 private:
     std::unique_ptr<LeftBehind> m_leftBehind;
@@ -365,6 +367,28 @@ void tst_CListCtrl::sortedTable()
     QCOMPARE(scene.state(), QStringLiteral("A B # / a1:11 b1 - / a2:12 b2:77 c2 / new:5 b0 c0"));
     QCOMPARE(scene.control.SetItem(0, 0, 0, L"next", 0, 0, 0, 6), TRUE);
     QCOMPARE(scene.state(), QStringLiteral("A B # / a2:12 b2:77 c2 / new:5 b0 c0 / next:6 b1 -"));
+}
+
+void tst_CListCtrl::insertIntoSortedTable()
+{
+    ListScene scene(Kind::Table);
+    scene.table()->setSortingEnabled(true);
+    scene.table()->sortItems(0, Qt::AscendingOrder);
+    QCOMPARE(scene.control.InsertItem(0, L"z"), 0);
+    QCOMPARE(scene.table()->rowCount(), 4);
+    for (int column = 0; column < 3; ++column)
+        QCOMPARE(scene.table()->item(3, column)->text(), QStringLiteral("z"));
+    QCOMPARE(scene.table()->item(0, 1)->text(), QStringLiteral("b0"));
+}
+
+void tst_CListCtrl::tableGoesWhileItsRowsGo()
+{
+    auto *table = new QTableWidget(2, 1);
+    CListCtrl control;
+    control.SetHandle(handleOf(table));
+    connect(table->model(), &QAbstractItemModel::rowsRemoved, this, [table] { delete table; });
+    QCOMPARE(control.DeleteAllItems(), TRUE);
+    QCOMPARE(control.GetItemCount(), 0);
 }
 
 QTEST_MAIN(tst_CListCtrl)

@@ -1,9 +1,9 @@
 #include "LeftBehind.h"
 #include "ListScene.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QHeaderView>
-#include <QtWidgets/QLineEdit>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QtTest>
 
 #include <climits>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "LeftBehind.h"
 #include "ListScene.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <climits>
 #include <memory>
@@ -26,6 +26,7 @@ private Q_SLOTS:
     void selectedCount();
     void withoutSelectionModel_data();
     void withoutSelectionModel();
+    void rowsBelowARoot();
 
 private:
     std::unique_ptr<LeftBehind> m_leftBehind;
@@ -251,6 +252,34 @@ void tst_CListCtrlSelection::withoutSelectionModel()
     QCOMPARE(scene.state(), before);
     QCOMPARE(scene.control.DeleteAllItems(), TRUE);
     QCOMPARE(scene.model()->rowCount(), 0);
+}
+
+void tst_CListCtrlSelection::rowsBelowARoot()
+{
+    QStandardItemModel model(3, 1);
+    for (int row = 0; row < 3; ++row)
+        model.setItem(row, new QStandardItem);
+    QStandardItem *root = model.item(1);
+    for (int row = 0; row < 4; ++row)
+        root->appendRow(new QStandardItem);
+    QTableView view;
+    view.setModel(&model);
+    view.setRootIndex(root->index());
+    CListCtrl control;
+    control.SetHandle(handleOf(&view));
+
+    view.selectRow(3);
+    QCOMPARE(control.GetItemState(3, 1), 1u);
+    QCOMPARE(control.GetItemState(2, 1), 0u);
+    QCOMPARE(control.GetSelectedCount(), 1u);
+    POSITION pos = control.GetFirstSelectedItemPosition();
+    QCOMPARE(control.GetNextSelectedItem(pos), 3);
+    QCOMPARE(pos, POSITION());
+    // Selected by the program, as no user can: the rows are told whatever their parent.
+    view.selectionModel()->select(model.index(2, 0), QItemSelectionModel::ClearAndSelect);
+    QCOMPARE(control.GetItemState(2, 1), 1u);
+    QCOMPARE(control.GetItemState(3, 1), 0u);
+    QCOMPARE(control.GetSelectedCount(), 1u);
 }
 
 QTEST_MAIN(tst_CListCtrlSelection)

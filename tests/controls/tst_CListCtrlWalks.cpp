@@ -1,7 +1,7 @@
 #include "LeftBehind.h"
 #include "ListScene.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <memory>
 

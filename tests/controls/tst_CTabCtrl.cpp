@@ -4,8 +4,9 @@
 #include "LeftBehind.h"
 #include "WidgetWatch.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QTabWidget>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtTest>
 
 #include <climits>
 #include <memory>

@@ -1,8 +1,8 @@
 #include "LeftBehind.h"
 #include "TreeScene.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QLineEdit>
+#include <QLineEdit>
+#include <QtTest>
 
 #include <climits>
 #include <memory>

@@ -3,10 +3,10 @@
 #include "LeftBehind.h"
 #include "WidgetWatch.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QDial>
-#include <QtWidgets/QScrollBar>
-#include <QtWidgets/QSlider>
+#include <QDial>
+#include <QScrollBar>
+#include <QSlider>
+#include <QtTest>
 
 #include <climits>
 #include <memory>

@@ -2,7 +2,7 @@
 #include "KxEditControls.h"
 #include "VirtualSlot.h"
 
-#include <QtTest/QTest>
+#include <QTest>
 
 #include <type_traits>
 

@@ -5,10 +5,10 @@
 #include "WidgetWatch.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QTreeWidget>
+#include <QComboBox>
+#include <QListWidget>
+#include <QTreeWidget>
+#include <QtTest>
 
 #include <cwchar>
 #include <memory>

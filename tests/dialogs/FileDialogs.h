@@ -2,17 +2,17 @@
 
 #include "ModalDriver.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QSettings>
-#include <QtCore/QTemporaryDir>
-#include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QFileDialog>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
 
 /// A folder of its own with some files, and Qt's own dialogs in it, whose settings go into another.
 class FileDialogs

@@ -3,7 +3,7 @@
 #include "KxDialogs.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <climits>
 #include <cstring>

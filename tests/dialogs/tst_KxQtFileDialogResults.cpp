@@ -2,7 +2,7 @@
 #include "KxDialogs.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <memory>
 

@@ -3,8 +3,8 @@
 
 #include "KxDibData.h"
 
-#include <QtCore/QByteArray>
-#include <QtCore/QVector>
+#include <QByteArray>
+#include <QVector>
 
 #include <cstddef>
 #include <cstdlib>

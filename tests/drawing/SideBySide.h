@@ -3,8 +3,8 @@
 
 #include "KxPainter.h"
 
-#include <QtGui/QImage>
-#include <QtGui/QPainter>
+#include <QImage>
+#include <QPainter>
 
 #include <functional>
 

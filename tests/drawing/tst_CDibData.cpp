@@ -1,8 +1,8 @@
 #include "KxDibData.h"
 #include "KxPainter.h"
 
-#include <QtGui/QImage>
-#include <QtTest/QtTest>
+#include <QImage>
+#include <QtTest>
 
 #include <climits>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #include "DibOfDepth.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <array>
 #include <climits>

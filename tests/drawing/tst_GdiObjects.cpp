@@ -3,9 +3,9 @@
 
 #include <KxPlatformServices.h>
 
-#include <QtGui/QImage>
-#include <QtGui/QPainter>
-#include <QtTest/QtTest>
+#include <QImage>
+#include <QPainter>
+#include <QtTest>
 
 #include <climits>
 #include <optional>

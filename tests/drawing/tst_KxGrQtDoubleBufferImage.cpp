@@ -1,11 +1,11 @@
 #include "KxDoubleBuffer.h"
 
-#include <QtGui/QImage>
-#include <QtGui/QPainter>
-#include <QtGui/QPalette>
-#include <QtGui/QPixmap>
-#include <QtTest/QtTest>
-#include <QtWidgets/QWidget>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QWidget>
+#include <QtTest>
 
 #include <climits>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "SideBySide.h"
 
-#include <QtGui/QPainterPath>
-#include <QtTest/QtTest>
+#include <QPainterPath>
+#include <QtTest>
 
 #include <climits>
 

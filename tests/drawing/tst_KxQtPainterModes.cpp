@@ -1,6 +1,6 @@
 #include "SideBySide.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <climits>
 

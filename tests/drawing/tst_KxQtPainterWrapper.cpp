@@ -1,7 +1,7 @@
 #include "SideBySide.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QWidget>
+#include <QWidget>
+#include <QtTest>
 
 #include <climits>
 #include <cwchar>

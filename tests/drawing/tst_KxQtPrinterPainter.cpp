@@ -1,13 +1,13 @@
 #include "KxPainter.h"
 
-#include <QtCore/QProcess>
-#include <QtCore/QStandardPaths>
-#include <QtCore/QTemporaryDir>
-#include <QtGui/QImage>
-#include <QtGui/QPainter>
-#include <QtGui/QPdfWriter>
-#include <QtPrintSupport/QPrinter>
-#include <QtTest/QtTest>
+#include <QImage>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QtTest>
 
 #include <functional>
 #include <memory>

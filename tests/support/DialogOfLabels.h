@@ -4,7 +4,7 @@
 #include "KxWindows.h"
 #include "WindowHandle.h"
 
-#include <QtWidgets/QLabel>
+#include <QLabel>
 
 #include <initializer_list>
 

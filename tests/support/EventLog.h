@@ -3,9 +3,9 @@
 
 #include "KxMessages.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtCore/QObject>
-#include <QtCore/QVector>
+#include <QCoreApplication>
+#include <QObject>
+#include <QVector>
 
 /// Notes every message event that is delivered to any object, and the number of all events to one object.
 class EventLog : public QObject

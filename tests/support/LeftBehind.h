@@ -3,7 +3,7 @@
 
 #include "KxWindows.h"
 
-#include <QtWidgets/QApplication>
+#include <QApplication>
 
 /// Tells whether a test took everything away that it made: make it in init() and ask in cleanup().
 class LeftBehind

@@ -3,12 +3,12 @@
 
 #include "SilentOffscreen.h"
 
-#include <QtCore/QPointer>
-#include <QtCore/QString>
-#include <QtCore/QTimer>
-#include <QtTest/QTest>
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QApplication>
+#include <QAbstractButton>
+#include <QApplication>
+#include <QPointer>
+#include <QString>
+#include <QTest>
+#include <QTimer>
 
 #include <functional>
 #include <utility>

@@ -1,8 +1,8 @@
 #ifndef SILENTOFFSCREEN_H
 #define SILENTOFFSCREEN_H
 
-#include <QtCore/QString>
-#include <QtGui/QGuiApplication>
+#include <QGuiApplication>
+#include <QString>
 
 /// Keeps back, for as long as one lives, what the offscreen platform warns of when a window asks for something
 /// that only a real screen has: a fixed size, or to be raised. Every other message goes on. They may be nested.

@@ -1,13 +1,13 @@
 #ifndef WIDGETWATCH_H
 #define WIDGETWATCH_H
 
-#include <QtCore/QMetaMethod>
-#include <QtCore/QMetaProperty>
-#include <QtCore/QStringList>
-#include <QtCore/QVariantMap>
-#include <QtGui/QIcon>
-#include <QtGui/QPixmap>
-#include <QtWidgets/QWidget>
+#include <QIcon>
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QPixmap>
+#include <QStringList>
+#include <QVariantMap>
+#include <QWidget>
 
 /// Watches a widget, or another object, from construction on: every signal that it emits, in order, and what
 /// changed of its properties, its picture, and whether it blocks its signals. The object must outlive it.

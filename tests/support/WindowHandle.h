@@ -3,7 +3,7 @@
 
 #include "KxWinTypes.h"
 
-#include <QtWidgets/QWidget>
+#include <QWidget>
 
 /// The handle of a widget, which is its address.
 inline HWND handleOf(QWidget *widget)

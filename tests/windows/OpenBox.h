@@ -3,7 +3,7 @@
 
 #include "ModalDriver.h"
 
-#include <QtWidgets/QMessageBox>
+#include <QMessageBox>
 
 using Buttons = QMessageBox::StandardButtons;
 

@@ -1,6 +1,6 @@
 #include "KxApplication.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <limits>
 

@@ -3,8 +3,8 @@
 #include "LeftBehind.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QLabel>
+#include <QLabel>
+#include <QtTest>
 
 #include <memory>
 

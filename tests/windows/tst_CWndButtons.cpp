@@ -3,11 +3,11 @@
 #include "LeftBehind.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
 
 #include <climits>
 #include <map>

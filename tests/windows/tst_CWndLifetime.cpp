@@ -3,9 +3,9 @@
 #include "LeftBehind.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
+#include <QLabel>
+#include <QPushButton>
+#include <QtTest>
 
 #include <memory>
 #include <optional>

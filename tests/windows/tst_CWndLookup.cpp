@@ -2,7 +2,7 @@
 #include "KxWindowPrivate.h"
 #include "LeftBehind.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <climits>
 #include <memory>

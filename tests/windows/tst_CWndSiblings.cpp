@@ -1,7 +1,7 @@
 #include "DialogOfLabels.h"
 #include "LeftBehind.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <climits>
 #include <memory>

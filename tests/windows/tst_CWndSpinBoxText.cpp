@@ -2,9 +2,9 @@
 #include "LeftBehind.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QDoubleSpinBox>
-#include <QtWidgets/QSpinBox>
+#include <QDoubleSpinBox>
+#include <QSpinBox>
+#include <QtTest>
 
 #include <climits>
 #include <memory>

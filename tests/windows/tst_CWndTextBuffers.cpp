@@ -2,9 +2,9 @@
 #include "LeftBehind.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QtTest>
 
 #include <climits>
 #include <memory>

@@ -4,9 +4,9 @@
 #include "LeftBehind.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QLabel>
+#include <QCheckBox>
+#include <QLabel>
+#include <QtTest>
 
 #include <cwchar>
 #include <memory>

@@ -1,8 +1,8 @@
 #include "KxPlatformServices.h"
 #include "KxUser32.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 class ScriptedKeyboard : public KxKeyboardService

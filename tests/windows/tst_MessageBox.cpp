@@ -1,8 +1,8 @@
 #include "KxApplication.h"
 #include "OpenBox.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 struct Answer

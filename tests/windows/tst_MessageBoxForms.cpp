@@ -4,8 +4,8 @@
 #include "OpenBox.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QtTest>
+#include <QtWidgets>
 
 /// The forms of the message box that reach it through an owner, a window object, or the application.
 class tst_MessageBoxForms : public QObject

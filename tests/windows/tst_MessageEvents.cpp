@@ -3,8 +3,8 @@
 #include "KxWindows.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <limits>
 

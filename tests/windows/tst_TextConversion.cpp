@@ -1,7 +1,7 @@
 #include "KxWindows.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 Q_DECLARE_METATYPE(std::wstring)
 

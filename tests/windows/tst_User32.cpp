@@ -2,8 +2,8 @@
 #include "KxWindows.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <functional>

@@ -1,8 +1,8 @@
 #include "KxUser32.h"
 #include "WindowHandle.h"
 
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <functional>

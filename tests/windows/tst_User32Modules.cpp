@@ -1,6 +1,6 @@
 #include "KxUser32.h"
 
-#include <QtTest/QtTest>
+#include <QtTest>
 
 #include <dlfcn.h>
 

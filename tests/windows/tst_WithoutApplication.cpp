@@ -6,9 +6,9 @@
 #include "KxWindows.h"
 #include "PlainChecks.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
-#include <QtWidgets/QApplication>
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
 
 // A program without a QApplication: what needs no widget works, the rest gives its failure value.
 
