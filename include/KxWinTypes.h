@@ -25,6 +25,7 @@
 using BOOL = int;
 using BYTE = std::uint8_t;
 using WORD = std::uint16_t;
+using LANGID = std::uint16_t; ///< A language in the low 10 bits, its variant above.
 using SHORT = std::int16_t;
 using UINT = std::uint32_t;
 using DWORD = std::uint32_t;
@@ -337,6 +338,15 @@ constexpr int VK_LCONTROL = 0xA2;
 constexpr int VK_RCONTROL = 0xA3;
 constexpr int VK_LMENU = 0xA4;
 constexpr int VK_RMENU = 0xA5;
+/// @}
+
+/// @name Loading images
+/// @{
+constexpr UINT IMAGE_BITMAP = 0;
+constexpr UINT IMAGE_ICON = 1;
+constexpr UINT IMAGE_CURSOR = 2;
+constexpr UINT LR_DEFAULTCOLOR = 0x0000;
+constexpr UINT LR_LOADFROMFILE = 0x0010;
 /// @}
 
 /// @name File access, creation and attributes

@@ -3,7 +3,7 @@
 # Usage: scripts/install-deps.sh [demo|wayland|test]      (default: test, which includes demo)
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
-demo_packages=(g++ cmake ninja-build ccache qtbase5-dev libqt5gui5 fonts-dejavu-core)
+demo_packages=(g++ cmake ninja-build ccache qtbase5-dev libqt5gui5 binutils-mingw-w64-x86-64 fonts-dejavu-core)
 wayland_packages=("${demo_packages[@]}" qtwayland5)
 test_packages=("${demo_packages[@]}"
     clang lld llvm libclang-rt-14-dev clang-format clang-tidy

@@ -33,6 +33,15 @@ INT_PTR CSettingsApp::ShowSettings()
     return nResult;
 }
 
+BOOL CSettingsApp::UseTextsOf(const wchar_t *lpszLibrary)
+{
+    HINSTANCE hTexts = AfxLoadLibrary(lpszLibrary);
+    AfxSetResourceHandle(hTexts);
+    AfxFreeLibrary(m_hTexts);
+    m_hTexts = hTexts;
+    return hTexts || !lpszLibrary;
+}
+
 void CSettingsApp::Load(CSettingsDlg &dlg)
 {
     dlg.m_strName = ReadText(L"Name", dlg.m_strName);

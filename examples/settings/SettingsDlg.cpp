@@ -5,6 +5,7 @@ static const wchar_t *const SPEEDS[] = {L"9600", L"19200", L"38400", L"57600", L
 CSettingsDlg::CSettingsDlg(CWnd *pParent)
     : CDialog(CSettingsDlg::IDD, pParent)
 {
+    m_strName.LoadStringW(IDS_DEFAULT_NAME);
 }
 
 void CSettingsDlg::DoDataExchange(CDataExchange *pDX)
@@ -52,18 +53,21 @@ void CSettingsDlg::OnVolumeChanged(int nVolume)
 bool CSettingsDlg::Validate()
 {
     if (m_strName.IsEmpty())
-        return Refuse(m_wndName, L"Please give the station a name.");
+        return Refuse(m_wndName, IDS_NO_NAME);
     // An empty field leaves its number as it was, so the text is looked at as well.
     if (m_wndPort.GetWindowTextLengthW() == 0 || m_nPort < 1 || m_nPort > 65535)
-        return Refuse(m_wndPort, L"The port must be a number from 1 to 65535.");
+        return Refuse(m_wndPort, IDS_BAD_PORT);
     if (m_wndInterval.GetWindowTextLengthW() == 0 || m_dInterval < 0.1 || m_dInterval > 3600.0)
-        return Refuse(m_wndInterval, L"The interval must be between 0.1 and 3600 seconds.");
+        return Refuse(m_wndInterval, IDS_BAD_INTERVAL);
     return true;
 }
 
-bool CSettingsDlg::Refuse(CWnd &wndField, const wchar_t *lpszReason)
+bool CSettingsDlg::Refuse(CWnd &wndField, UINT nIDReason)
 {
-    AfxMessageBox(lpszReason, MB_ICONWARNING);
+    // AfxMessageBox(nIDReason, MB_ICONWARNING) shows no icon on this platform.
+    CString strReason;
+    strReason.LoadStringW(nIDReason);
+    AfxMessageBox(strReason, MB_ICONWARNING);
     wndField.SetFocus();
     return false;
 }

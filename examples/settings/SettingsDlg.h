@@ -10,7 +10,7 @@ public:
 
     explicit CSettingsDlg(CWnd *pParent = nullptr);
 
-    CString m_strName = L"Weather station";
+    CString m_strName;
     int m_nPort = 8080;
     double m_dInterval = 1.5; // seconds
     int m_nSpeed = 0;         // index into the list of serial speeds
@@ -28,7 +28,7 @@ protected:
 
 private:
     bool Validate();
-    bool Refuse(CWnd &wndField, const wchar_t *lpszReason);
+    bool Refuse(CWnd &wndField, UINT nIDReason);
 
     CWnd m_wndName;
     CWnd m_wndPort;

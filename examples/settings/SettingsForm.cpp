@@ -5,6 +5,13 @@
 
 #include <QButtonGroup>
 
+static QString loadText(UINT id)
+{
+    CString text;
+    text.LoadStringW(id);
+    return QString::fromWCharArray(text);
+}
+
 SettingsForm::SettingsForm(CSettingsDlg &dlg)
     : QBaseDialog(nullptr)
     , m_dlg(dlg)
@@ -17,6 +24,7 @@ SettingsForm::SettingsForm(CSettingsDlg &dlg)
     units->addButton(m_ui->metric, 0);
     units->addButton(m_ui->imperial, 1);
 
+    loadTexts();
     registerControls();
     connectControls();
 }
@@ -31,6 +39,40 @@ void SettingsForm::OnOK()
 void SettingsForm::OnCancel()
 {
     m_dlg.OnCancel();
+}
+
+// The file formats stay: their names are what is stored.
+void SettingsForm::loadTexts()
+{
+    setWindowTitle(loadText(IDS_TITLE));
+    m_ui->stationBox->setTitle(loadText(IDS_STATION));
+    m_ui->unitsBox->setTitle(loadText(IDS_UNITS));
+    m_ui->channelBox->setTitle(loadText(IDS_CHANNEL));
+
+    const struct
+    {
+        UINT id;
+        QLabel *label;
+    } labels[] = {
+        {IDS_NAME, m_ui->nameLabel},   {IDS_PORT, m_ui->portLabel},     {IDS_INTERVAL, m_ui->intervalLabel},
+        {IDS_SPEED, m_ui->speedLabel}, {IDS_FORMAT, m_ui->formatLabel}, {IDS_VOLUME, m_ui->volumeLabel},
+    };
+    for (const auto &[id, label] : labels)
+        label->setText(loadText(id));
+
+    const struct
+    {
+        UINT id;
+        QAbstractButton *button;
+    } buttons[] = {
+        {IDS_METRIC, m_ui->metric}, {IDS_IMPERIAL, m_ui->imperial}, {IDS_AUTOSTART, m_ui->autoStart},
+        {IDS_OK, m_ui->ok},         {IDS_CANCEL, m_ui->cancel},
+    };
+    for (const auto &[id, button] : buttons)
+        button->setText(loadText(id));
+
+    for (const UINT id : {IDS_TEMPERATURE, IDS_PRESSURE, IDS_HUMIDITY, IDS_WIND})
+        m_ui->channel->addItem(loadText(id));
 }
 
 void SettingsForm::registerControls()

@@ -21,6 +21,7 @@ public:
     void OnCancel() override;
 
 private:
+    void loadTexts();
     void registerControls();
     void connectControls();
 

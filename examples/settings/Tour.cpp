@@ -1,6 +1,9 @@
 #include "Tour.h"
 
 #include "SettingsApp.h"
+#include "resource.h"
+
+#include <KxPlatform.h>
 
 #include <QApplication>
 #include <QComboBox>
@@ -8,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPainter>
 #include <QRadioButton>
@@ -61,6 +65,13 @@ void type(const char *name, const char *text)
 void press(Qt::Key key)
 {
     QTest::keyClick(QApplication::focusWidget(), key);
+}
+
+QString textOf(UINT id)
+{
+    CString text;
+    text.LoadStringW(id);
+    return QString::fromWCharArray(text);
 }
 
 void click(const char *button)
@@ -128,6 +139,7 @@ int Tour::run()
         return EXIT_FAILURE;
     }
     std::signal(SIGALRM, endHungTour);
+    QLocale::setDefault(QLocale(QStringLiteral("en_US")));
     alarm(watchdogSeconds);
 
     runDialog({{"01-defaults", Window::Form, [this] { showsDefaults(); }, {}},
@@ -145,6 +157,15 @@ int Tour::run()
          {"07-cancelled", Window::Form, [] { type("name", "Never stored"); }, [] { press(Qt::Key_Escape); }}},
         IDCANCEL);
     expectStored("Name=North ridge");
+
+    followsTheLocale();
+    const QString german = QCoreApplication::applicationDirPath() + QStringLiteral("/settings_de.so");
+    expect(theApp.UseTextsOf(german.toStdWString().c_str()),
+           QStringLiteral("cannot load the texts in %1").arg(german));
+    runDialog({{"08-german", Window::Form, [this] { showsGermanTexts(); }, [] { press(Qt::Key_Escape); }}},
+              IDCANCEL);
+    theApp.UseTextsOf(nullptr);
+    expectText("title", textOf(IDS_TITLE), "Station Settings");
     alarm(0);
 
     if (m_failures > 0)
@@ -258,6 +279,27 @@ void Tour::showsStoredValues()
     expectFields("9100", "2.500000", "70 %");
 }
 
+void Tour::followsTheLocale()
+{
+    const QLocale english;
+    QLocale::setDefault(QLocale(QStringLiteral("de_AT")));
+    SetThreadUILanguage(0);
+    expectText("title", textOf(IDS_TITLE), "Station einrichten");
+    expectText("message", textOf(IDS_BAD_PORT), "Der Port muss eine Zahl von 1 bis 65535 sein.");
+    QLocale::setDefault(english);
+    SetThreadUILanguage(0);
+    expectText("title", textOf(IDS_TITLE), "Station Settings");
+}
+
+void Tour::showsGermanTexts()
+{
+    expectText("title", QApplication::activeModalWidget()->windowTitle(), "Station einrichten");
+    expectText("speed", control<QLabel>("speedLabel")->text(), "Ü&bertragungsrate:");
+    expectText("channel", control<QListWidget>("channel")->currentItem()->text(), "Luftfeuchte");
+    expectText("cancel", control<QAbstractButton>("cancel")->text(), "Abbrechen");
+    expectText("format", control<QComboBox>("format")->currentText(), "XML");
+}
+
 void Tour::expectFields(const char *port, const char *interval, const char *volumeText)
 {
     expectText("port", control<QLineEdit>("port")->text(), port);
@@ -265,10 +307,11 @@ void Tour::expectFields(const char *port, const char *interval, const char *volu
     expectText("volume", control<QLabel>("volumeText")->text(), volumeText);
 }
 
-void Tour::expectText(const char *widget, const QString &shown, const char *expected)
+void Tour::expectText(const char *what, const QString &shown, const char *expected)
 {
-    expect(shown == QLatin1String(expected), QStringLiteral("%1 shows \"%2\", not \"%3\"")
-                                                 .arg(QLatin1String(widget), shown, QLatin1String(expected)));
+    expect(shown == QString::fromUtf8(expected),
+           QStringLiteral("%1 shows \"%2\", not \"%3\"")
+               .arg(QLatin1String(what), shown, QString::fromUtf8(expected)));
 }
 
 void Tour::expect(bool holds, const QString &what)

@@ -45,9 +45,11 @@ private:
     void showsRefusal();
     void correctPort();
     void showsStoredValues();
+    void followsTheLocale();
+    void showsGermanTexts();
 
     void expectFields(const char *port, const char *interval, const char *volumeText);
-    void expectText(const char *widget, const QString &shown, const char *expected);
+    void expectText(const char *what, const QString &shown, const char *expected);
     void expect(bool holds, const QString &what);
     void expectStored(const QByteArray &line);
     void shoot();

@@ -38,8 +38,9 @@ void dropPluginRemarks(QtMsgType, const QMessageLogContext &, const QString &mes
 int main(int argc, char *argv[])
 {
     const bool wantsTour = argc == 3 && std::strcmp(argv[1], "--tour") == 0;
-    if (argc > 1 && !wantsTour) {
-        std::fprintf(stderr, "usage: settings [--tour DIR]\n");
+    const bool wantsTexts = argc == 3 && std::strcmp(argv[1], "--texts") == 0;
+    if (argc > 1 && !wantsTour && !wantsTexts) {
+        std::fprintf(stderr, "usage: settings [--tour DIR | --texts LIBRARY]\n");
         return EXIT_FAILURE;
     }
 
@@ -57,6 +58,10 @@ int main(int argc, char *argv[])
 
     if (touring)
         return Tour(wantsTour ? QString::fromLocal8Bit(argv[2]) : QStringLiteral("settings-tour")).run();
+    if (wantsTexts && !theApp.UseTextsOf(QString::fromLocal8Bit(argv[2]).toStdWString().c_str())) {
+        std::fprintf(stderr, "settings: cannot load the texts in %s\n", argv[2]);
+        return EXIT_FAILURE;
+    }
     theApp.InitInstance();
     return EXIT_SUCCESS;
 }

@@ -13,29 +13,58 @@
 /// @name Resources and modules
 /// @{
 
-/// Copies the string resource @p id of a module into a buffer. There are no string resources yet: every
-/// identifier is unknown.
-/// @param module a module, or null for the program itself.
-/// @param id the string's identifier.
-/// @param buffer receives the text, cut to @p bufferMax - 1 characters and terminated.
+/// Copies the string resource @p id of a module into a buffer.
+///
+/// Of several languages the wanted one (see SetThreadUILanguage()) is taken, then another variant of it, then the
+/// neutral one, then the first. Unlike Win32, a string that the language's table lacks is taken from the next one
+/// in that order.
+/// @param module what LoadLibraryW() gave, not yet released, or null for the program itself; any other value is
+/// a module without resources.
+/// @param id the string's identifier, at most 65535.
+/// @param buffer receives the text, cut to @p bufferMax - 1 characters and terminated. A character beyond 16
+/// bits counts as one.
 /// @param bufferMax room in @p buffer, in characters.
 /// @return the number of characters copied, without the terminator; 0 and an empty @p buffer when there is no
 /// such string; 0 with nothing written when @p buffer is null or @p bufferMax is below 1. Unlike Win32, no
 /// room does not ask for the resource's address.
 KX_PLATFORM_EXPORT int LoadStringW(HINSTANCE module, UINT id, wchar_t *buffer, int bufferMax);
 
-/// Loads a bitmap resource. There are no bitmap resources yet.
-/// @param module a module, or null for the program itself.
-/// @param name the resource's name, or its 16-bit identifier in place of an address; never dereferenced then.
-/// @param type kind of image; 0 is a bitmap.
-/// @param cx wanted width in pixels; 0 keeps that of the resource.
-/// @param cy wanted height in pixels; 0 keeps that of the resource.
-/// @param flags load flags.
-/// @return the handle of an image, owned by the caller; null when there is no such resource.
+/// Chooses the language in which strings and images are loaded from now on, in all threads.
+///
+/// Without a call it is that in which QLocale() wants texts: as it was when the first resource was loaded, and as it
+/// is then once an application object was made or destroyed.
+/// @param language a language identifier; 0 takes the language of QLocale() as it is now, which is how a change of
+/// the default locale is made known.
+/// @return the language in effect; 0 when QLocale() has one that Win32 does not number.
+KX_PLATFORM_EXPORT LANGID SetThreadUILanguage(LANGID language);
+
+/// Loads a bitmap or icon, from the resources of a module or from a file.
+///
+/// The language is chosen as for strings. An image without transparency has the format RGB32, one with
+/// transparency ARGB32. Unlike Win32, cursors are not loaded, and an icon's handle is deleted like that of a
+/// bitmap.
+/// @param module as in LoadStringW(); ignored with LR_LOADFROMFILE.
+/// @param name the resource's name, in any case, "#" with its number, or MAKEINTRESOURCEW() of its number; the
+/// file's name with LR_LOADFROMFILE.
+/// @param type IMAGE_BITMAP or IMAGE_ICON; others are refused.
+/// @param cx wanted width in pixels, to which the image is scaled; 0 keeps its own. Of an icon's images the
+/// one of the nearest size is taken, or the first when both sizes are 0.
+/// @param cy wanted height in pixels, as @p cx.
+/// @param flags LR_LOADFROMFILE or 0; the other flags are ignored.
+/// @return the handle of an image, known to the GDI object service and the image service, and owned by the
+/// caller, who releases it with KxGdiObjectService::deleteObject(); null when there is no such image, when it
+/// is damaged, or when a size is negative or too large.
 KX_PLATFORM_EXPORT HANDLE LoadImageW(HINSTANCE module, const wchar_t *name, UINT type, int cx, int cy,
                                      UINT flags);
 
-/// Loads a shared library with the dynamic loader, all its symbols resolved and none of them made global.
+/// @return the 16-bit number of a resource in place of the address of its name.
+inline const wchar_t *MAKEINTRESOURCEW(int id)
+{
+    return reinterpret_cast<const wchar_t *>(std::uintptr_t(WORD(id)));
+}
+
+/// Loads a shared library with the dynamic loader, all its symbols resolved and none of them made global. Its
+/// handle selects the resources that `kx_add_resources()` embedded in it.
 ///
 /// A name without a slash is searched on the loader's path. Loading a library twice gives the same handle;
 /// each success is paired with one FreeLibrary().

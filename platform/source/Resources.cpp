@@ -1,13 +1,12 @@
+#include "ResourceModules.h"
+
 #include <KxPlatform.h>
 
-int LoadStringW(HINSTANCE, UINT, wchar_t *buffer, int bufferMax)
+int LoadStringW(HINSTANCE module, UINT id, wchar_t *buffer, int bufferMax)
 {
-    if (buffer && bufferMax > 0)
-        *buffer = L'\0';
-    return 0;
-}
-
-HANDLE LoadImageW(HINSTANCE, const wchar_t *, UINT, int, int, UINT)
-{
-    return nullptr;
+    if (!buffer || bufferMax < 1)
+        return 0;
+    *buffer = L'\0';
+    ResourceModule *resources = resourceModule(module);
+    return resources ? copyString(*resources, id, buffer, bufferMax) : 0;
 }
