@@ -1,0 +1,194 @@
+#include "GuidedTour.h"
+
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPainter>
+#include <QScreen>
+#include <QTest>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <unistd.h>
+
+namespace {
+
+constexpr unsigned watchdogSeconds = 90;
+const char *volatile currentStep = "start";
+QByteArray programName;
+
+void writeError(const char *text)
+{
+    [[maybe_unused]] const auto written = write(STDERR_FILENO, text, std::strlen(text));
+}
+
+void endHungTour(int)
+{
+    writeError(programName.constData());
+    writeError(": the tour hangs at ");
+    writeError(currentStep);
+    writeError("\n");
+    _exit(EXIT_FAILURE);
+}
+
+QRect visibleArea()
+{
+    QRect area;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        if (window->isVisible())
+            area |= window->frameGeometry();
+    }
+    return area;
+}
+
+QPixmap visibleWindows()
+{
+    const QRect area = visibleArea();
+    if (QGuiApplication::platformName() == QLatin1String("xcb"))
+        return QGuiApplication::primaryScreen()->grabWindow(0, area.x(), area.y(), area.width(),
+                                                            area.height());
+
+    QPixmap picture(area.size());
+    picture.fill(Qt::darkGray);
+    QPainter painter(&picture);
+    const auto draw = [&](QWidget *window) {
+        const QRect place = window->geometry().translated(-area.topLeft());
+        painter.drawPixmap(place.topLeft(), window->grab());
+        painter.drawRect(place.adjusted(-1, -1, 0, 0));
+    };
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->isVisible() && window != QApplication::activeModalWidget())
+            draw(window);
+    }
+    draw(QApplication::activeModalWidget());
+    return picture;
+}
+
+} // namespace
+
+GuidedTour::GuidedTour(const QString &folder)
+    : m_folder(folder)
+{
+    programName = QCoreApplication::applicationName().toLocal8Bit();
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &GuidedTour::playNextStep);
+}
+
+int GuidedTour::run()
+{
+    if (!folderIsWritable()) {
+        std::fprintf(stderr, "%s: cannot write to %s\n", programName.constData(),
+                     qPrintable(m_folder.path()));
+        return EXIT_FAILURE;
+    }
+    std::signal(SIGALRM, endHungTour);
+    alarm(watchdogSeconds);
+    walk();
+    alarm(0);
+
+    if (m_failed)
+        return EXIT_FAILURE;
+    std::printf("%s: every step of the tour held\n", programName.constData());
+    return EXIT_SUCCESS;
+}
+
+bool GuidedTour::folderIsWritable()
+{
+    QFile probe(m_folder.filePath(QStringLiteral(".probe")));
+    return m_folder.mkpath(QStringLiteral(".")) && probe.open(QIODevice::WriteOnly) && probe.remove();
+}
+
+void GuidedTour::runModal(std::vector<Step> steps, const std::function<qintptr()> &show,
+                          qintptr expectedResult)
+{
+    m_steps = std::move(steps);
+    m_next = 0;
+    m_timer.start(0);
+    const auto result = show();
+    expect(result == expectedResult,
+           QStringLiteral("DoModal gave %1, not %2").arg(result).arg(expectedResult));
+    expect(m_next == m_steps.size(), QStringLiteral("the dialog closed after step %1").arg(m_next));
+    m_next = m_steps.size();
+}
+
+void GuidedTour::playNextStep()
+{
+    if (m_next == m_steps.size())
+        return;
+    const Step &step = m_steps[m_next];
+    currentStep = step.name;
+    if (!windowIsReady(step.window)) {
+        m_timer.start(20);
+        return;
+    }
+
+    ++m_next;
+    step.act();
+    shoot();
+    // Before leaving: a key press that opens a modal window returns only when that window is closed.
+    m_timer.start(0);
+    if (step.leave)
+        step.leave();
+}
+
+bool GuidedTour::windowIsReady(Window window) const
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    const bool wanted =
+        modal && (qobject_cast<QMessageBox *>(modal) != nullptr) == (window == Window::MessageBox);
+    if (!wanted || !modal->windowHandle()->isExposed())
+        return false;
+    // Offscreen there is no window manager to activate the dialog when the message box is gone.
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        modal->activateWindow();
+    return modal->isActiveWindow();
+}
+
+void GuidedTour::click(QWidget *widget, const QPoint &point, Qt::KeyboardModifiers modifiers)
+{
+    QTest::mouseClick(widget, Qt::LeftButton, modifiers, point);
+}
+
+void GuidedTour::click(const char *name)
+{
+    click(control<QWidget>(name), QPoint(8, 8));
+}
+
+void GuidedTour::press(Qt::Key key)
+{
+    QTest::keyClick(QApplication::focusWidget(), key);
+}
+
+void GuidedTour::type(const char *name, const QString &text)
+{
+    auto *edit = control<QLineEdit>(name);
+    QTest::mouseClick(edit, Qt::LeftButton);
+    QTest::keySequence(edit, QKeySequence::SelectAll);
+    QTest::keyClicks(edit, text);
+}
+
+void GuidedTour::expectText(const char *widget, const QString &shown, const QString &expected)
+{
+    expect(shown == expected,
+           QStringLiteral("%1 shows \"%2\", not \"%3\"").arg(QLatin1String(widget), shown, expected));
+}
+
+void GuidedTour::expect(bool holds, const QString &what)
+{
+    // Only the first failure is told: the others mostly follow from it.
+    if (holds || m_failed)
+        return;
+    m_failed = true;
+    std::fprintf(stderr, "%s: %s: %s\n", programName.constData(), currentStep, qPrintable(what));
+}
+
+void GuidedTour::shoot()
+{
+    QTest::qWait(50); // lets the windows be painted
+    const QString file = m_folder.filePath(QLatin1String(currentStep) + QStringLiteral(".png"));
+    expect(visibleWindows().save(file), QStringLiteral("cannot write %1").arg(file));
+}
