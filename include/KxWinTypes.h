@@ -380,3 +380,6 @@ constexpr DWORD KEY_READ = 0x00020019;
 constexpr DWORD KEY_WRITE = 0x00020006;
 constexpr DWORD KEY_ALL_ACCESS = 0x000F003F;
 /// @}
+
+// Last, because it builds on the records above: CPoint, CSize and CRect belong to the types.
+#include "KxGeometry.h"
