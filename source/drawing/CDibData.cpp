@@ -3,7 +3,7 @@
 #include "KxPainter.h"
 #include "PixelRuns.h"
 
-#include <QtGui/QImage>
+#include <QImage>
 
 #include <algorithm>
 #include <cstdint>
