@@ -161,7 +161,8 @@ public:
     /// Fills a rectangle, whose right and bottom are exclusive.
     ///
     /// On the context of a window this paints on the widget itself, which Qt allows in its paint event only;
-    /// drawing that is to last goes to KxGrQtDoubleBufferImage::memPainter().
+    /// drawing that is to last goes to KxGrQtDoubleBufferImage::memPainter(). The widget must live as long as
+    /// its context is drawn on.
     /// @param rect the rectangle; nothing is filled for null or without a device.
     /// @param brush its colour; black for null and for one without a live handle.
     void FillRect(const RECT *rect, CBrush *brush);
@@ -199,7 +200,8 @@ public:
 /// widget.
 ///
 /// The device that the context had is overwritten and not freed, since ported code may still hold it: take
-/// CDC::m_hDC before and delete it when nothing uses it any more.
+/// CDC::m_hDC before and delete it when nothing uses it any more. The device does not own the widget, which
+/// must live as long as the context is used.
 /// @return the window's context, owned by the window; null when no bound window object is registered for
 /// @p hwnd.
 KX_MFC_EXPORT CDC *_CreateDCforHwnd(HWND hwnd);

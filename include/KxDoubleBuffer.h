@@ -44,7 +44,8 @@ public:
     /// Makes the memory image and a new front image, in place of those that are there.
     ///
     /// When createImages() made the images before and @p w and @p h are the size that the destination has
-    /// now, nothing is done, whatever size the images have.
+    /// now, nothing is done, whatever size the images have. After the widget was resized, a call with its new
+    /// size therefore leaves the images in the old one: call destroyImages() first.
     /// @param w width in pixels.
     /// @param h height in pixels.
     /// @param bytesPerPixel 4; with more, the lines of the memory image are longer than their pixels, and

@@ -80,8 +80,9 @@ KX_MFC_EXPORT Qt::PenStyle LsToQPenStyle(int style);
 /// the queries give what a new painter has. The clip region and the current path belong to the wrapper and
 /// last.
 ///
-/// Colours are opaque unless an alpha is given. A rectangle's right and bottom are exclusive: its size is
-/// CRect::Width() by CRect::Height(). A null pointer or a count below 1 draws nothing.
+/// Colours are opaque unless an alpha is given. A rectangle's right and bottom are exclusive: what is filled
+/// has the size CRect::Width() by CRect::Height(). Only the outline of drawAlphaRect() lies on them. A null
+/// pointer or a count below 1 draws nothing.
 class KX_MFC_EXPORT KxQtPainterWrapper
 {
 public:
@@ -154,7 +155,7 @@ public:
     void setBrush(int style);
     void setBrush(COLORREF c); ///< Sets a solid brush.
     /// Tells whether the gaps of dashed lines, hatch patterns and texts are filled with the background.
-    /// @param mode TRANSPARENT or OPAQUE; anything else is ignored.
+    /// @param mode OPAQUE: they are; TRANSPARENT and anything else: they are not.
     void setBkMode(int mode);
     void setBackground(COLORREF c); ///< Sets the background colour.
     /// @return the QPainter::CompositionMode; this is not a Win32 raster operation.
@@ -177,7 +178,10 @@ public:
     /// Sets the clip region, now and for every later beginDraw(): the odd-even area of polygons.
     /// @param pts the points of all polygons, one after the other.
     /// @param counts the number of points of each polygon.
-    /// @param n number of polygons. When it is 0, or an array is null, clipping is removed.
+    /// @param n number of polygons. When it is 0, or an array is null, clipping is removed; so it is when the
+    /// polygons have no area.
+    ///
+    /// Polygons are cut 4096 pixels off the device, so that huge ones cost no more than others.
     void setClipRegion(POINT *pts, UINT *counts, UINT n);
     /// Moves the origin to (@p cx, @p cy) and turns the axes there by @p angle degrees, clockwise. The
     /// origin stays moved: later coordinates count from it.
@@ -201,7 +205,8 @@ public:
     /// @param s the text.
     /// @param len its length in characters; below 0 it goes to the terminator.
     void drawText(int x, int y, const wchar_t *s, int len);
-    /// Draws a rectangle with the pen and a translucent filling, which becomes the brush.
+    /// Draws a rectangle with the pen and a translucent filling, which becomes the brush. The outline goes
+    /// along the right and bottom lines themselves, one pixel beyond the filling, unlike Win32.
     /// @param rect the rectangle; when its left is not below its right, the two corners are exchanged.
     /// @param c colour of the filling.
     /// @param alpha its opacity; 255 and above is opaque; below 1 there is no filling.

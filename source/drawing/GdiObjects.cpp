@@ -4,6 +4,7 @@
 #include <KxPlatform.h>
 #include <KxPlatformServices.h>
 
+#include <cstdint>
 #include <utility>
 
 bool CGdiObject::Attach(void *handle)

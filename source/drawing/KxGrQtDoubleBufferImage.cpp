@@ -13,7 +13,11 @@ static constexpr QImage::Format imageFormat = QImage::Format_ARGB32_Premultiplie
 // Destroying an image under an active painter would leave that painter with a dangling device.
 static void setDevice(KxQtPainterWrapper &painter, QImage *image)
 {
-    painter.endDraw();
+    // Not by endDraw(): ported code may have taken the device away while it draws.
+    if (painter.wrappedPainter()->isActive()) {
+        painter.restore();
+        painter.wrappedPainter()->end();
+    }
     painter.setWrappedDevice(image);
 }
 
@@ -63,8 +67,8 @@ static bool isImageSize(int w, int h, int bytesPerPixel)
 
 unsigned char *KxGrQtDoubleBufferImage::createImages(int w, int h, int bytesPerPixel)
 {
-    // The size of the images does not count: ported code creates them anew after a resize only.
-    if (m_bImagesCreated && w == width() && h == height())
+    // The size of the images does not count: after a resize they keep the former one until destroyImages().
+    if (m_bImagesCreated && destinationDevice() && w == width() && h == height())
         return m_pMemBits;
     if (!isImageSize(w, h, bytesPerPixel))
         return nullptr;

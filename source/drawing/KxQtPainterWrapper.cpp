@@ -1,3 +1,4 @@
+#include "ClipRegion.h"
 #include "DrawingConversions.h"
 #include "KxPainter.h"
 
@@ -192,8 +193,8 @@ void KxQtPainterWrapper::setBrush(COLORREF c)
 
 void KxQtPainterWrapper::setBkMode(int mode)
 {
-    if (isDrawing() && (mode == TRANSPARENT || mode == OPAQUE))
-        m_pPainter->setBackgroundMode(Qt::BGMode(mode - 1));
+    if (isDrawing())
+        m_pPainter->setBackgroundMode(mode == OPAQUE ? Qt::OpaqueMode : Qt::TransparentMode);
 }
 
 void KxQtPainterWrapper::setBackground(COLORREF c)
@@ -239,12 +240,8 @@ void KxQtPainterWrapper::setFontIndirect(const LOGFONTW *lf)
 
 void KxQtPainterWrapper::setClipRegion(POINT *pts, UINT *counts, UINT n)
 {
-    QPainterPath path;
-    for (UINT i = 0; pts && counts && i < n; ++i) {
-        path.addPolygon(toPolygon(pts, int(counts[i])));
-        pts += counts[i];
-    }
-    *m_pClipRegion = QRegion(path.toFillPolygon().toPolygon(), Qt::OddEvenFill);
+    const QSize size = m_pDevice ? QSize(m_pDevice->width(), m_pDevice->height()) : QSize(0, 0);
+    *m_pClipRegion = clipRegion(pts, counts, n, size);
     if (isDrawing())
         applyClipRegion();
 }

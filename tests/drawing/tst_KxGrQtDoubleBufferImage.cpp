@@ -82,6 +82,7 @@ private Q_SLOTS:
     void destroyImages();
     void destroyImagesKeepsAnEarlyFrontImage();
     void destroyImagesWhileDrawing();
+    void destroyImagesUnderAPainterWithoutDevice();
 
     void repairDrawsOverTheFrontImage();
     void repairWithoutImages();
@@ -222,6 +223,7 @@ void tst_KxGrQtDoubleBufferImage::createImagesOfBadSize_data()
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("height");
     QTest::addColumn<int>("bytesPerPixel");
+    QTest::newRow("nothing at all") << 0 << 0 << 4;
     QTest::newRow("no width") << 0 << 5 << 4;
     QTest::newRow("no height") << 5 << 0 << 4;
     QTest::newRow("no bytes") << 5 << 5 << 0;
@@ -306,6 +308,21 @@ void tst_KxGrQtDoubleBufferImage::destroyImagesWhileDrawing()
     buffer.memPainter()->beginDraw();
     buffer.createImages(30, 10, 4);
     buffer.frontPainter()->beginDraw();
+}
+
+void tst_KxGrQtDoubleBufferImage::destroyImagesUnderAPainterWithoutDevice()
+{
+    KxGrQtDoubleBufferImage buffer;
+    buffer.createImages(20, 10, 4);
+    for (KxQtPainterWrapper *painter : {buffer.memPainter(), buffer.frontPainter()}) {
+        painter->beginDraw();
+        painter->setWrappedDevice(nullptr);
+    }
+    buffer.destroyImages();
+    for (KxQtPainterWrapper *painter : {buffer.memPainter(), buffer.frontPainter()}) {
+        QVERIFY(!painter->wrappedPainter()->isActive());
+        painter->drawPoint(3, 3);
+    }
 }
 
 void tst_KxGrQtDoubleBufferImage::repairDrawsOverTheFrontImage()

@@ -3,6 +3,11 @@
 #include <QPainterPath>
 #include <QtTest>
 
+#include <climits>
+
+using Polygons = QVector<QPolygon>;
+Q_DECLARE_METATYPE(Polygons)
+
 namespace {
 constexpr COLORREF red = 0x0000FF;
 // Whether it is filled odd-even shows.
@@ -29,6 +34,23 @@ QImage redIn(const QRegion &area)
         p.fillRect(0, 0, 48, 40, Qt::red);
     });
 }
+
+QPolygon box(int left, int top, int right, int bottom)
+{
+    return QPolygon({{left, top}, {right, top}, {right, bottom}, {left, bottom}});
+}
+
+void setClip(KxQtPainterWrapper &painter, const Polygons &polygons)
+{
+    QVector<POINT> points;
+    QVector<UINT> counts;
+    for (const QPolygon &polygon : polygons) {
+        for (const QPoint &point : polygon)
+            points << POINT{point.x(), point.y()};
+        counts << UINT(polygon.size());
+    }
+    painter.setClipRegion(points.data(), counts.data(), UINT(counts.size()));
+}
 } // namespace
 
 /// The clip region and the current path, which belong to the wrapper.
@@ -41,6 +63,11 @@ private Q_SLOTS:
     void clipRegionWhileDrawing();
     void clipRegionIsRemoved_data();
     void clipRegionIsRemoved();
+    void hugeClipRegion_data();
+    void hugeClipRegion();
+    void hugeClipRegionOfSlantedEdges();
+    void clipRegionWithoutArea();
+    void hugeClipRegionOfOtherDevices();
 
     void pathModeDrawsNothing();
     void strokePath();
@@ -127,6 +154,120 @@ void tst_KxQtPainterRegions::clipRegionIsRemoved()
     painter.endDraw();
     QCOMPARE(image, redIn(image.rect()));
 }
+
+void tst_KxQtPainterRegions::hugeClipRegion_data()
+{
+    constexpr int most = INT_MAX;
+    constexpr int least = INT_MIN;
+    QTest::addColumn<Polygons>("polygons");
+    const auto row = [](const char *name, const Polygons &polygons) { QTest::newRow(name) << polygons; };
+    const auto polygon = [](const QPolygon &points) { return Polygons{points}; };
+
+    row("triangle of all numbers", polygon(QPolygon({{least, least}, {most, 0}, {0, most}})));
+    row("triangle of long edges", polygon(QPolygon({{0, 0}, {100000, 5}, {5, 100000}})));
+    row("triangle of Qt's range", polygon(QPolygon({{-32767, -32767}, {32767, 0}, {0, 32767}})));
+    row("to the right", {box(10, 5, most, 30)});
+    row("to the left", {box(least, 5, 30, 30)});
+    row("to the bottom", {box(10, 5, 30, most)});
+    row("to the top", {box(10, least, 30, 30)});
+    row("all", {box(least, least, most, most)});
+    row("corner", {box(20, 10, most, most)});
+    row("with a hole", polygon(box(-100000, -100000, most, most)
+                               << QPoint(-100000, -100000) << box(10, 10, 30, 30) << QPoint(10, 10)));
+    row("around twice", polygon(box(-100000, -100000, 100000, 100000)
+                                << QPoint(-100000, -100000) << box(least, 10, most, most)));
+    row("bands", {box(10, least, 30, most), box(least, 15, most, 25)});
+    row("with small ones", {box(least, 15, most, 25), box(5, 10, 20, 30), box(40, 20, 45, 30)});
+    row("far away", {box(100000, 100000, 200000, 200000)});
+    row("beside", {box(100000, 0, 200000, 30)});
+    row("a flat one far away", {box(least, 100000, most, 100001)});
+}
+
+void tst_KxQtPainterRegions::hugeClipRegion()
+{
+    QFETCH(Polygons, polygons);
+    QPainterPath path;
+    for (QPolygon polygon : polygons) {
+        // Qt clips to the wrong side of paths at the ends of int. Here nearer points show the same.
+        for (QPoint &point : polygon)
+            point = {qBound(-1000000, point.x(), 1000000), qBound(-1000000, point.y(), 1000000)};
+        path.addPolygon(polygon);
+    }
+    const QImage expected = painted([&](QPainter &p) {
+        p.setClipPath(path);
+        p.fillRect(0, 0, 48, 40, Qt::red);
+    });
+
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(drawn([&](auto &p) {
+                 setClip(p, polygons);
+                 fillAll(p);
+             }),
+             expected);
+    // A region of all lines that Qt knows takes twice that time.
+    QVERIFY(timer.elapsed() < 10000);
+}
+
+// Regions and paths differ in the pixels on a slanted edge, so these are told by nearer points on it.
+void tst_KxQtPainterRegions::hugeClipRegionOfSlantedEdges()
+{
+    const auto clipped = [](const QPolygon &polygon) {
+        return drawn([&](auto &p) {
+            setClip(p, {polygon});
+            fillAll(p);
+        });
+    };
+    for (const int huge : {100000, 1 << 30}) {
+        QCOMPARE(clipped(QPolygon({{-huge, -huge}, {huge, huge}, {huge, -huge}})),
+                 clipped(QPolygon({{-2000, -2000}, {2000, 2000}, {2000, -2000}})));
+        QCOMPARE(clipped(QPolygon({{-huge, huge / 2}, {huge, -huge / 2}, {huge, huge}})),
+                 clipped(QPolygon({{-2000, 1000}, {2000, -1000}, {2000, 2000}})));
+        QCOMPARE(clipped(QPolygon({{20 - huge, 20 - huge},
+                                   {20 + huge, 20 + huge},
+                                   {20 + huge, 20 - huge},
+                                   {20 - huge, 20 + huge}})),
+                 clipped(QPolygon({{-1980, -1980}, {2020, 2020}, {2020, -1980}, {-1980, 2020}})));
+    }
+}
+
+void tst_KxQtPainterRegions::clipRegionWithoutArea()
+{
+    const Polygons lines = {box(INT_MIN, 5, INT_MAX, 5), box(5, INT_MIN, 5, INT_MAX),
+                            QPolygon(QVector<QPoint>{{2, 2}, {9, 9}})};
+    for (const QPolygon &line : lines) {
+        drawn([&](auto &p) {
+            setClip(p, {line});
+            QVERIFY(!p.wrappedPainter()->hasClipping());
+        });
+    }
+}
+
+// A clip region is set for devices to come, too.
+void tst_KxQtPainterRegions::hugeClipRegionOfOtherDevices()
+{
+    QImage image = canvas();
+    QImage wide = canvas(6000, 2);
+    KxQtPainterWrapper painter;
+    const auto fillWide = [&](const Polygons &clip) {
+        setClip(painter, clip);
+        painter.setWrappedDevice(&wide);
+        painter.beginDraw();
+        painter.fillRect(CRect(0, 0, 6000, 2), red);
+        painter.endDraw();
+    };
+    fillWide({box(4000, 0, INT_MAX, INT_MAX)});
+    QCOMPARE(wide.pixel(3999, 1), canvas(6000, 2).pixel(3999, 1));
+    QCOMPARE(wide.pixel(4095, 1), 0xFFFF0000);
+    fillWide({box(5000, 0, INT_MAX, INT_MAX)});
+    QCOMPARE(wide.pixel(5999, 1), 0xFFFF0000);
+
+    painter.setWrappedDevice(&image);
+    wide = canvas(6000, 2);
+    fillWide({box(100000, 0, INT_MAX, INT_MAX)});
+    QCOMPARE(wide, canvas(6000, 2));
+}
+
 // Path mode with the star as the current path, in colours of its own.
 static Draw onStarPath(const Draw &draw)
 {
