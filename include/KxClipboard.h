@@ -121,9 +121,9 @@ class KX_MFC_EXPORT COleDataSource
 public:
     /// Hands a block of memory over to the clipboard and frees the one that @p format had, handle and block.
     ///
-    /// The handle stays the caller's when the number was not registered (the number then takes a step in
-    /// later enumerations all the same) or when its name is empty. Nothing happens when the clipboard holds
-    /// the handle already, whether for this format or another, and when the handle is null.
+    /// The handle stays the caller's when the number was not registered or its name is empty; a number that was
+    /// not registered takes a step in later enumerations all the same. Nothing else happens when the clipboard
+    /// holds the handle already, whether for this format or another, and when the handle is null.
     /// @param format a number from RegisterClipboardFormatW().
     /// @param hGlobal a KxGlobalMemory as made by CSharedFile::Detach(); owned by the clipboard from now on.
     void CacheGlobalData(unsigned format, HGLOBAL hGlobal);

@@ -2,5 +2,5 @@
 /// @brief Path names, and the volumes that they lie on.
 #pragma once
 
-#include "KxPathName.h"
+#include "KxUiPathname.h"
 #include "KxVolumes.h"

@@ -1,3 +1,4 @@
+#include "ClipboardStore.h"
 #include "KxClipboard.h"
 
 COleDataObject::COleDataObject()
@@ -25,7 +26,7 @@ bool COleDataObject::AttachClipboard()
 void COleDataObject::BeginEnumFormats()
 {
     m_pClipboard->m_nEnumStep = -1;
-    m_pClipboard->m_nEnumFormat = 3455;
+    m_pClipboard->m_nEnumFormat = firstNumber - 1;
 }
 
 bool COleDataObject::GetNextFormat(FORMATETC *fe)

@@ -3,15 +3,25 @@
 
 #include <QMimeData>
 
-static HeldRecords records;
+static std::map<const void *, QString> recordTypes;
 
-// Destroyed in reverse order: an attached clipboard frees what the store holds; the records free the rest.
+// Destroyed in reverse order, the store last.
 QMimeData g_clipboardData;
+
+// Frees what is left when no clipboard was ever attached.
+static const struct LastRelease
+{
+    LastRelease() = default;
+    LastRelease(const LastRelease &) = delete;
+    LastRelease &operator=(const LastRelease &) = delete;
+    ~LastRelease() { releaseAllRecords(); }
+} lastRelease;
+
 std::map<int, CString> g_mapCF;
 KxPlatformClipboard g_platformClipboard;
-int g_iCFIndex = 3456;
+int g_iCFIndex = firstNumber;
 
-HeldRecords &heldRecords()
+std::map<const void *, QString> &typesOfRecords()
 {
-    return records;
+    return recordTypes;
 }

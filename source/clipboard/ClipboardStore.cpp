@@ -15,27 +15,15 @@ QString mimeTypeOf(const wchar_t *name)
     return mimeType == QLatin1String("text/uri-list") ? mimeType + QChar(u'\0') : mimeType;
 }
 
-static void freeMemory(KxGlobalMemory *record)
-{
-    std::free(record->block);
-    std::free(record);
-}
-
-HeldRecords::~HeldRecords()
-{
-    for (KxGlobalMemory *record : m_records)
-        freeMemory(record);
-}
-
-void HeldRecords::release(KxGlobalMemory *record)
-{
-    m_records.erase(record);
-    freeMemory(record);
-}
-
 KxGlobalMemory *recordIn(const QByteArray &bytes)
 {
     return reinterpret_cast<KxGlobalMemory *>(const_cast<char *>(bytes.constData()));
+}
+
+bool isHeld(const void *record)
+{
+    const auto it = typesOfRecords().find(record);
+    return it != typesOfRecords().end() && recordIn(g_clipboardData.data(it->second)) == record;
 }
 
 void releaseRecord(const QString &mimeType)
@@ -44,6 +32,16 @@ void releaseRecord(const QString &mimeType)
     if (bytes.isEmpty())
         return;
 
+    KxGlobalMemory *record = recordIn(bytes);
+    typesOfRecords().erase(record);
     g_clipboardData.setData(mimeType, QByteArray());
-    heldRecords().release(recordIn(bytes));
+    std::free(record->block);
+    std::free(record);
+}
+
+void releaseAllRecords()
+{
+    const QStringList mimeTypes = g_clipboardData.formats();
+    for (const QString &mimeType : mimeTypes)
+        releaseRecord(mimeType);
 }

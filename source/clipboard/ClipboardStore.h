@@ -4,31 +4,16 @@
 
 #include <QString>
 
-#include <set>
+#include <map>
 
 class QByteArray;
 struct KxGlobalMemory;
 
-/// Records in the store, which are freed in the end if no clipboard did it.
-class HeldRecords
-{
-public:
-    HeldRecords() = default;
-    HeldRecords(const HeldRecords &) = delete;
-    HeldRecords &operator=(const HeldRecords &) = delete;
-    ~HeldRecords();
+/// The first number of a registered format.
+constexpr int firstNumber = 3456;
 
-    /// Whether the record is new here.
-    bool add(KxGlobalMemory *record) { return m_records.insert(record).second; }
-    /// Frees a record and its block.
-    void release(KxGlobalMemory *record);
-
-private:
-    std::set<KxGlobalMemory *> m_records;
-};
-
-/// The records that the store holds.
-HeldRecords &heldRecords();
+/// The MIME types under which records were put into the store. The application may have emptied it since.
+std::map<const void *, QString> &typesOfRecords();
 
 /// The MIME type under which the store keeps the format of this name.
 QString mimeTypeOf(const wchar_t *name);
@@ -36,5 +21,11 @@ QString mimeTypeOf(const wchar_t *name);
 /// The record behind the bytes of a format.
 KxGlobalMemory *recordIn(const QByteArray &bytes);
 
+/// Whether the store holds a record, under whatever MIME type.
+bool isHeld(const void *record);
+
 /// Frees what the store holds under a MIME type, which stays registered.
 void releaseRecord(const QString &mimeType);
+
+/// Frees what the store holds.
+void releaseAllRecords();

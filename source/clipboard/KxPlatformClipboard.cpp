@@ -3,17 +3,12 @@
 
 #include <QMimeData>
 
-static constexpr int firstNumber = 3456;
-
 KxPlatformClipboard::KxPlatformClipboard() = default;
 
 KxPlatformClipboard::~KxPlatformClipboard()
 {
-    if (!m_pData)
-        return;
-    const QStringList mimeTypes = m_pData->formats();
-    for (const QString &mimeType : mimeTypes)
-        releaseRecord(mimeType);
+    if (m_pData)
+        releaseAllRecords();
 }
 
 bool KxPlatformClipboard::isDataAvailable(unsigned short format, FORMATETC *fe) const

@@ -1,4 +1,4 @@
-#include "KxPathName.h"
+#include "KxUiPathname.h"
 
 #include "KxPlatformServices.h"
 #include "PathText.h"

@@ -1,4 +1,4 @@
-#include "KxPathName.h"
+#include "KxUiPathname.h"
 
 #include "PathText.h"
 

@@ -1,4 +1,4 @@
-#include "KxPathName.h"
+#include "KxUiPathname.h"
 
 #include "PathText.h"
 
@@ -41,8 +41,10 @@ unsigned CKdUiPathname::ReplaceExtensionAlways(const wchar_t *ext)
 
 unsigned CKdUiPathname::ReplaceExtensionIfNoMatch(const wchar_t *list)
 {
-    if (!list || VerifyExtension(list))
-        return list ? editDone : ReplaceExtensionAlways(nullptr);
+    if (!list)
+        return ReplaceExtensionAlways(nullptr);
+    if (VerifyExtension(list))
+        return editDone;
     CString extension;
     GetFirstExtInList(list, extension);
     return ReplaceExtensionAlways(extension);
@@ -66,8 +68,10 @@ unsigned CKdUiPathname::AddExtensionAlways(const wchar_t *ext)
 
 unsigned CKdUiPathname::AddExtensionIfNoMatch(const wchar_t *list)
 {
-    if (!list || VerifyExtension(list))
-        return list ? editDone : badArgument;
+    if (!list)
+        return badArgument;
+    if (VerifyExtension(list))
+        return editDone;
     CString extension;
     GetFirstExtInList(list, extension);
     return AddExtensionAlways(extension);

@@ -1,4 +1,4 @@
-#include "KxPathName.h"
+#include "KxUiPathname.h"
 
 #include "KxPlatform.h"
 #include "PathText.h"
@@ -20,11 +20,12 @@ public:
         if (!m_changes)
             return;
         const DWORD length = GetCurrentDirectoryW(maxPathLength + 1, m_former);
-        m_changed = length > 0 && length <= maxPathLength && SetCurrentDirectoryW(*directory);
+        m_formerIsKnown = length > 0 && length <= maxPathLength;
+        m_changed = SetCurrentDirectoryW(*directory);
     }
     ~DirectoryChange()
     {
-        if (m_changed)
+        if (m_changed && m_formerIsKnown)
             SetCurrentDirectoryW(m_former);
     }
     DirectoryChange(const DirectoryChange &) = delete;
@@ -35,6 +36,7 @@ public:
 private:
     const bool m_changes;
     bool m_changed = false;
+    bool m_formerIsKnown = false;
     wchar_t m_former[maxPathLength + 1] = {};
 };
 

@@ -1,4 +1,4 @@
-#include "KxPathName.h"
+#include "KxUiPathname.h"
 
 #include "KxPlatform.h"
 #include "KxVolumes.h"

@@ -1,4 +1,4 @@
-#include "KxPathName.h"
+#include "KxUiPathname.h"
 
 #include "KxVolumes.h"
 #include "PathText.h"
@@ -28,7 +28,7 @@ CKdUiVolumeDescriptor *CKdUiPathname::FindVolumeDescriptor(const CString &volume
         return nullptr;
     const auto found =
         std::find_if(volumeList.cbegin(), volumeList.cend(), [&](CKdUiVolumeDescriptor *descriptor) {
-            const CString *name = descriptor->GetLocalName();
+            const CString *name = descriptor ? descriptor->GetLocalName() : nullptr;
             return name && *name == volume;
         });
     return found == volumeList.cend() ? NewVolDescriptor(volume) : *found;

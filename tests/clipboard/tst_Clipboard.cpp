@@ -41,6 +41,7 @@ private Q_SLOTS:
     void registeredWithoutData();
     void formatThatLeftTheStore();
     void nullHandle();
+    void storeEmptiedByTheApplication();
     void sameHandleAgain();
     void handleOfAnotherFormat();
     void handleAgainAfterItsRelease();
@@ -286,9 +287,25 @@ void tst_Clipboard::nullHandle()
 {
     const unsigned short format = newFormat();
     HGLOBAL memory = cached(format, "content");
+    COleDataSource().CacheGlobalData(format, nullptr);
+    QCOMPARE(COleDataObject().GetGlobalData(format), memory);
+
+    // Also without a handle the number takes a step in enumerations.
     const auto before = g_mapCF;
     COleDataSource().CacheGlobalData(9, nullptr);
-    QCOMPARE(g_mapCF, before);
+    QCOMPARE(g_mapCF.size(), before.size() + 1);
+    QVERIFY(g_mapCF.at(9).IsEmpty());
+    g_mapCF = before;
+}
+
+void tst_Clipboard::storeEmptiedByTheApplication()
+{
+    const unsigned short format = newFormat();
+    HGLOBAL memory = cached(format, "content");
+    const QString name = QString::fromWCharArray(g_mapCF.at(format).c_str());
+    g_clipboardData.setData(name, QByteArray());
+    QVERIFY(!COleDataObject().GetGlobalData(format));
+    COleDataSource().CacheGlobalData(format, memory);
     QCOMPARE(COleDataObject().GetGlobalData(format), memory);
 }
 

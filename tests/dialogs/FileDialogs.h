@@ -68,9 +68,9 @@ inline void waitForList(const QFileDialog &dialog)
     QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), expected);
 }
 
-/// Types a name over the one that is there. No completions pop up: they grab the keyboard, which the
-/// offscreen platform cannot give.
-inline void typeName(QWidget *dialog, const QString &name)
+/// Gets ready for a name in place of the one that is there. No completions pop up: they grab the keyboard,
+/// which the offscreen platform cannot give.
+inline void startName(QWidget *dialog)
 {
     QLineEdit *edit = nameEditOf(dialog);
     edit->setCompleter(nullptr);
@@ -80,14 +80,24 @@ inline void typeName(QWidget *dialog, const QString &name)
     edit->setFocus();
     QTRY_VERIFY(edit->hasFocus());
     edit->selectAll();
-    QTest::keyClicks(edit, name);
 }
 
 /// Types a name and presses Enter.
 inline ModalDriver::Action chooseByName(const QString &name)
 {
     return [name](QWidget *dialog) {
-        typeName(dialog, name);
+        startName(dialog);
+        QTest::keyClicks(nameEditOf(dialog), name);
+        QTest::keyClick(nameEditOf(dialog), Qt::Key_Return);
+    };
+}
+
+/// Pastes names in quotes and presses Enter. While they are typed, Qt may lose one that it selected before.
+inline ModalDriver::Action pasteNames(const QString &names)
+{
+    return [names](QWidget *dialog) {
+        startName(dialog);
+        nameEditOf(dialog)->insert(names);
         QTest::keyClick(nameEditOf(dialog), Qt::Key_Return);
     };
 }

@@ -1,4 +1,4 @@
-/// @file KxPathName.h
+/// @file KxUiPathname.h
 /// @brief CKdUiPathname, one file-system path as text.
 ///
 /// Paths are UTF-32 texts; the functions of the platform library encode them for the file system.
