@@ -1,11 +1,19 @@
 #!/usr/bin/env bash
-# Builds the library and runs the settings example.
-# Usage: scripts/demo.sh [--window | --tour DIR]
-#   no argument   opens the window when there is a display; without one the example drives itself
-#                 and leaves its screenshots in build/demo
-#   --window      opens the window, or fails when there is no display
-#   --tour DIR    the example drives itself and writes its screenshots to DIR
+# Builds the library and the examples, and runs one of them or all.
+# Usage: scripts/demo.sh [settings|gallery|sketch] [--window | --tour DIR]
+#   settings, gallery, sketch   the example to run; without a name the gallery in a window, or the tours of all
+#   --window                    opens the window, or fails when there is no display
+#   --tour DIR                  the examples drive themselves and leave their screenshots in DIR/<example>
+#   neither                     --window when there is a display, else --tour build/demo
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+examples=(gallery settings sketch)
+case ${1:-} in
+    settings | gallery | sketch)
+        examples=("$1")
+        shift
+        ;;
+esac
 
 tour_dir=
 case ${1:-} in
@@ -14,27 +22,32 @@ case ${1:-} in
     --tour)
         [[ -n ${2:-} ]] || fail "--tour needs a folder"
         tour_dir=$(realpath -m "$2")
+        shift
         ;;
-    *) fail "unknown argument \"$1\": use --window or --tour DIR" ;;
+    *) fail "unknown argument \"$1\": use settings, gallery or sketch, then --window or --tour DIR" ;;
 esac
+[[ $# -le 1 ]] || fail "unexpected argument \"$2\""
+[[ -n $tour_dir ]] || examples=("${examples[0]}")
 
 packages=demo
 [[ -n ${DISPLAY:-} || -z ${WAYLAND_DISPLAY:-} ]] || packages=wayland
 "$project_dir/scripts/install-deps.sh" "$packages"
 
 build_dir=$project_dir/build/release
+logs=$project_dir/build/logs
 say "building"
 cd "$project_dir"
-logged "$project_dir/build/logs/demo-configure.log" "configuring" \
-    cmake --preset release -DKX_BUILD_TESTS=OFF
-logged "$project_dir/build/logs/demo-build.log" "building" cmake --build "$build_dir" --target settings
+logged "$logs/demo-configure.log" "configuring" cmake --preset release -DKX_BUILD_TESTS=OFF
+logged "$logs/demo-build.log" "building" cmake --build "$build_dir" --target "${examples[@]}"
 
-settings=$build_dir/bin/settings
 if [[ -z $tour_dir ]]; then
-    say "opening the settings window; its values are kept for the next run"
-    exec "$settings"
+    say "opening the window of ${examples[0]}"
+    exec "$build_dir/bin/${examples[0]}"
 fi
 
-say "the example drives itself"
-"$settings" --tour "$tour_dir"
-say "the screenshots are in $tour_dir"
+for example in "${examples[@]}"; do
+    say "$example drives itself"
+    logged "$logs/demo-$example.log" "the tour of $example" \
+        "$build_dir/bin/$example" --tour "$tour_dir/$example"
+done
+say "every step held; the screenshots are in $tour_dir"

@@ -34,16 +34,26 @@ void dropPluginRemarks(QtMsgType, const QMessageLogContext &, const QString &mes
         std::fprintf(stderr, "%s: %s\n", programName, qPrintable(message));
 }
 
+int showUsage(const ExampleOption &option)
+{
+    QByteArray choices = "--tour DIR";
+    if (option.name)
+        choices.append(" | ").append(option.name).append(' ').append(option.argument);
+    std::fprintf(stderr, "usage: %s [%s]\n", programName, choices.constData());
+    return EXIT_FAILURE;
+}
+
 } // namespace
 
 int runExample(int argc, char *argv[], const Example &example)
 {
     programName = example.name;
-    const bool wantsTour = argc == 3 && std::strcmp(argv[1], "--tour") == 0;
-    if (argc > 1 && !wantsTour) {
-        std::fprintf(stderr, "usage: %s [--tour DIR]\n", programName);
-        return EXIT_FAILURE;
-    }
+    const ExampleOption &option = example.option;
+    const auto isChosen = [&](const char *name) { return argc == 3 && std::strcmp(argv[1], name) == 0; };
+    const bool wantsTour = isChosen("--tour");
+    const bool wantsOption = option.name && isChosen(option.name);
+    if (argc > 1 && !wantsTour && !wantsOption)
+        return showUsage(option);
 
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     const bool unseen = platformShowsNothing(platform);
@@ -60,6 +70,8 @@ int runExample(int argc, char *argv[], const Example &example)
     if (touring)
         return example.tour(wantsTour ? QString::fromLocal8Bit(argv[2])
                                       : QLatin1String(programName) + QStringLiteral("-tour"));
+    if (wantsOption && !option.apply(QString::fromLocal8Bit(argv[2])))
+        return EXIT_FAILURE;
     example.start();
     return EXIT_SUCCESS;
 }

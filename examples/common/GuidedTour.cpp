@@ -142,8 +142,8 @@ bool GuidedTour::windowIsReady(Window window) const
         modal && (qobject_cast<QMessageBox *>(modal) != nullptr) == (window == Window::MessageBox);
     if (!wanted || !modal->windowHandle()->isExposed())
         return false;
-    // Offscreen there is no window manager to activate the dialog when the message box is gone.
-    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+    // Offscreen there is no window manager to activate the dialog, and elsewhere one may have come too late.
+    if (!modal->isActiveWindow())
         modal->activateWindow();
     return modal->isActiveWindow();
 }
@@ -158,9 +158,9 @@ void GuidedTour::click(const char *name)
     click(control<QWidget>(name), QPoint(8, 8));
 }
 
-void GuidedTour::press(Qt::Key key)
+void GuidedTour::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    QTest::keyClick(QApplication::focusWidget(), key);
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
 }
 
 void GuidedTour::type(const char *name, const QString &text)
@@ -169,6 +169,11 @@ void GuidedTour::type(const char *name, const QString &text)
     QTest::mouseClick(edit, Qt::LeftButton);
     QTest::keySequence(edit, QKeySequence::SelectAll);
     QTest::keyClicks(edit, text);
+}
+
+QString GuidedTour::fileInFolder(const QString &name) const
+{
+    return m_folder.absoluteFilePath(name);
 }
 
 void GuidedTour::expectText(const char *widget, const QString &shown, const QString &expected)

@@ -47,9 +47,13 @@ protected:
     }
     static void click(QWidget *widget, const QPoint &point, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     static void click(const char *name);
-    static void press(Qt::Key key);
+    /// Presses a key where the focus is.
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// Replaces the text of a QLineEdit.
     static void type(const char *name, const QString &text);
+
+    /// @return the absolute path of a file beside the screenshots.
+    QString fileInFolder(const QString &name) const;
 
 private:
     bool folderIsWritable();

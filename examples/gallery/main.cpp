@@ -4,9 +4,7 @@
 
 int main(int argc, char *argv[])
 {
-    return runExample(argc, argv,
-                      {"gallery",
-                       [] { theApp.InitInstance(); },
-                       [](const QString &folder) { return Tour(folder).run(); },
-                       {}});
+    return runExample(
+        argc, argv,
+        {"gallery", [] { theApp.InitInstance(); }, [](const QString &folder) { return Tour(folder).run(); }});
 }

@@ -1,40 +1,19 @@
 #pragma once
 
-#include <QDir>
+#include "GuidedTour.h"
+
 #include <QImage>
-#include <QObject>
-#include <QTimer>
 
-#include <functional>
-#include <vector>
-
-/// Draws as a user would, with key presses and mouse clicks, checks every pixel of what it shows, and leaves
-/// a screenshot of each step.
-class Tour : public QObject
+/// Draws, undoes, fills and prints, and checks every pixel of what the program shows.
+class Tour : public GuidedTour
 {
-    Q_OBJECT
 public:
-    explicit Tour(const QString &folder);
+    using GuidedTour::GuidedTour;
 
-    /// @return the exit code: 0 when every expectation held.
-    int run();
+protected:
+    void walk() override;
 
 private:
-    enum class Window { Form, MessageBox };
-
-    struct Step
-    {
-        const char *name;
-        Window window;
-        std::function<void()> act;   ///< Draws and checks; the screenshot follows.
-        std::function<void()> leave; ///< The key press or click that opens or closes a window, or nothing.
-    };
-
-    bool folderIsWritable();
-    void runSteps(std::vector<Step> steps);
-    void waitForWindow();
-    bool windowIsReady(Window window) const;
-
     void startsEmpty();
     void drawGround();
     void stretchRubberBand();
@@ -48,20 +27,23 @@ private:
     void typeBadFile();
     void showsRefusal();
 
+    /// Moves the current item of a list, or the handle of a slider, from the first place on.
+    static void choose(const char *name, int place);
+    static void choosePen(int color, int style, int width);
+    static void pressMouse(QPoint at);
+    static void moveMouse(QPoint to);
+    static void releaseMouse(QPoint at);
+    static void drag(QPoint from, QPoint to);
+
     void undo();
     void drawBox(const QRect &box, const QColor &shade);
     void drawCircle(QPoint center, int radius);
     void fill(QPoint at, int color);
-    void expectPixel(QPoint at, QRgb expected);
-    void expectStatus(const QString &text);
-    void expect(bool holds, const QString &what);
-    QString pdfFile() const;
-    void shoot();
 
-    QDir m_folder;
-    QTimer m_timer; ///< Calls waitForWindow().
-    std::vector<Step> m_steps;
-    std::size_t m_next = 0;
+    /// @return what the canvas shows.
+    static QImage picture();
+    void expectPixel(QPoint at, QRgb expected);
+    void expectStatus(const QString &expected);
+
     QImage m_before; ///< What one step shows and a later one brings back.
-    int m_failures = 0;
 };

@@ -1,13 +1,13 @@
 #include "Tour.h"
 
 #include "SketchDlg.h"
-#include "UserInput.h"
 
 #include <QAbstractButton>
 #include <QFile>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPainter>
+#include <QTest>
 
 #include <cmath>
 
@@ -26,11 +26,6 @@ constexpr QPoint bandEnd(170, 400);
 QRgb rgb(int color)
 {
     return qRgb(GetRValue(COLORS[color]), GetGValue(COLORS[color]), GetBValue(COLORS[color]));
-}
-
-QImage picture()
-{
-    return control<QWidget>("canvas")->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
 QImage emptyPaper()
@@ -85,7 +80,7 @@ void Tour::startsEmpty()
     expect(picture() == emptyPaper(), QStringLiteral("the paper is not white"));
     expect(control<QAbstractButton>("line")->isChecked(), QStringLiteral("line is not checked"));
     expect(!control<QWidget>("undo")->isEnabled(), QStringLiteral("there is something to undo"));
-    expect(control<QLabel>("widthText")->text() == QLatin1String("3 px"), QStringLiteral("wrong width"));
+    expectText("width", control<QLabel>("widthText")->text(), QStringLiteral("3 px"));
 }
 
 void Tour::drawGround()
@@ -262,23 +257,19 @@ void Tour::clearAndUndo()
     expectStatus(QStringLiteral("Cleared"));
 }
 
-QString Tour::pdfFile() const
-{
-    return m_folder.absoluteFilePath(QStringLiteral("sketch.pdf"));
-}
-
 void Tour::print()
 {
     click("undo");
     expect(picture() == m_before, QStringLiteral("undo did not bring back what was cleared"));
 
-    QFile::remove(pdfFile());
-    type("file", pdfFile());
+    const QString file = fileInFolder(QStringLiteral("sketch.pdf"));
+    QFile::remove(file);
+    type("file", file);
     click("print");
-    QFile pdf(pdfFile());
+    QFile pdf(file);
     expect(pdf.open(QIODevice::ReadOnly) && pdf.read(5) == "%PDF-" && pdf.size() > 2000,
            QStringLiteral("no PDF was printed"));
-    expectStatus(QStringLiteral("Printed to ") + pdfFile());
+    expectStatus(QStringLiteral("Printed to ") + file);
 }
 
 void Tour::typeBadFile()
@@ -289,8 +280,12 @@ void Tour::typeBadFile()
 void Tour::showsRefusal()
 {
     const auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-    expect(box->text() == QLatin1String("Cannot write /nowhere/sketch.pdf."),
-           QStringLiteral("the message is \"%1\"").arg(box->text()));
+    expectText("message", box->text(), QStringLiteral("Cannot write /nowhere/sketch.pdf."));
+}
+
+QImage Tour::picture()
+{
+    return control<QWidget>("canvas")->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
 void Tour::expectPixel(QPoint at, QRgb expected)
@@ -303,8 +298,7 @@ void Tour::expectPixel(QPoint at, QRgb expected)
                                   .arg(expected, 0, 16));
 }
 
-void Tour::expectStatus(const QString &text)
+void Tour::expectStatus(const QString &expected)
 {
-    const QString shown = control<QLabel>("status")->text();
-    expect(shown == text, QStringLiteral("the status is \"%1\", not \"%2\"").arg(shown, text));
+    expectText("status", control<QLabel>("status")->text(), expected);
 }
