@@ -213,10 +213,11 @@ public:
     bool OpenWriteOnly(void *&handle) const;
     /// Not supported: ends the process with std::terminate().
     [[noreturn]] void Open(FILE **file, const wchar_t *mode);
-    /// Renames or moves the file. The current directory is the base directory meanwhile.
+    /// Renames or moves the file. The current directory is the base directory meanwhile, and stays so when the
+    /// former one is gone or its name is longer than 1023 characters.
     /// @param newName taken over as the path on success; category, type and base directory stay.
     /// @return whether it was renamed. False for null, when @p newName exists, and when the current directory
-    /// could not be changed to the base directory and back.
+    /// cannot be changed to the base directory.
     bool Rename(const wchar_t *newName);
     /// @return false. Fixed result: nothing is removed.
     bool Remove();
