@@ -5,8 +5,8 @@
 
 #include <KxPlatform.h>
 #include <KxPlatformServices.h>
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QtTest>
+#include <QtWidgets>
 
 /// What a ported program does with the resources of its own .rc file and of a satellite library.
 class tst_ApplicationResources : public QObject
@@ -24,6 +24,8 @@ private Q_SLOTS:
     void messageBox_data();
     void messageBox();
     void buttonImage();
+    void tabText();
+    void bitmapOfProgram();
 };
 
 static HINSTANCE loadSatellite()
@@ -130,6 +132,47 @@ void tst_ApplicationResources::buttonImage()
 
     QVERIFY(platformServices().gdiObjects().deleteObject(bitmap));
     QVERIFY(platformServices().gdiObjects().deleteObject(icon));
+}
+
+void tst_ApplicationResources::tabText()
+{
+    QTabWidget tabs;
+    CTabCtrl control;
+    control.SetHandle(handleOf(&tabs));
+    CWnd known;
+    known.SetHandle(handleOf(new QWidget(&tabs)));
+    CWnd unknown;
+    unknown.SetHandle(handleOf(new QWidget(&tabs)));
+    control.AddTab(0, IDS_GREETING, 0, &known);
+    control.AddTab(1, 9999, 0, &unknown);
+    QCOMPARE(tabs.tabText(0), QStringLiteral("Hello"));
+    QCOMPARE(tabs.tabText(1), QString());
+}
+
+void tst_ApplicationResources::bitmapOfProgram()
+{
+    CBitmap bitmap;
+    QVERIFY(bitmap.LoadBitmapW(IDB_ARROW));
+    QLabel label;
+    CStatic picture;
+    picture.SetHandle(handleOf(&label));
+    picture.SetBitmap(bitmap);
+    QCOMPARE(label.pixmap(Qt::ReturnByValue).size(), QSize(3, 2));
+    {
+        CDC context;
+        context.SelectObject(&bitmap);
+        CBrush brush(0x00FF00);
+        context.FillRect(CRect(0, 0, 1, 1), &brush);
+        QVERIFY(platformServices().gdiObjects().deleteObject(brush.GetSafeHandle()));
+    }
+    const QImage image = platformServices().gdiObjects().bitmapImage(bitmap.GetSafeHandle());
+    QCOMPARE(image.pixelColor(0, 0), QColor(Qt::green));
+    QCOMPARE(image.pixelColor(2, 1), QColor(200, 200, 50));
+    QVERIFY(bitmap.DeleteObject());
+
+    CBitmap unknown;
+    QVERIFY(unknown.LoadBitmapW(9999));
+    QVERIFY(!unknown.GetSafeHandle());
 }
 
 QTEST_MAIN(tst_ApplicationResources)
