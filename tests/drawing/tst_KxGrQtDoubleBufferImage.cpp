@@ -1,4 +1,5 @@
 #include "KxDoubleBuffer.h"
+#include "PlainImages.h"
 
 #include <QImage>
 #include <QPainter>
@@ -11,28 +12,6 @@
 #include <memory>
 
 namespace {
-constexpr auto format = QImage::Format_ARGB32_Premultiplied;
-constexpr COLORREF red = 0x0000FF;
-
-QImage plain(int width, int height, QColor color)
-{
-    QImage image(width, height, format);
-    image.fill(color);
-    return image;
-}
-
-QImage plain(QSize size, QColor color)
-{
-    return plain(size.width(), size.height(), color);
-}
-
-void fill(KxQtPainterWrapper *painter, COLORREF color, CRect rect = CRect(0, 0, 100, 100))
-{
-    painter->beginDraw();
-    painter->fillRect(rect, color);
-    painter->endDraw();
-}
-
 // A window as an application writes it: what it shows is the front image.
 class Canvas : public QWidget
 {
@@ -56,10 +35,6 @@ protected:
     }
 };
 
-HDC handleOf(KxQtPainterWrapper *painter)
-{
-    return reinterpret_cast<HDC>(painter);
-}
 } // namespace
 
 class tst_KxGrQtDoubleBufferImage : public QObject
@@ -92,12 +67,6 @@ private Q_SLOTS:
     void repairPublishesToTheFrontBuffer();
     void frontBuffer();
     void drawingLasts();
-
-    void saverUndoesDrawing();
-    void saverLeavesTheMemoryImage();
-    void saverPaintsOver();
-    void saverOfOtherDevices();
-    void saverOfADeviceThatChanges();
 };
 
 void tst_KxGrQtDoubleBufferImage::deviceWrapper()
@@ -450,95 +419,6 @@ void tst_KxGrQtDoubleBufferImage::drawingLasts()
     QPainter(&expected).fillRect(2, 3, 7, 5, Qt::red);
     for (int run = 0; run < 2; ++run)
         QCOMPARE(canvas.grab().toImage().convertToFormat(QImage::Format_RGB32), expected);
-}
-
-void tst_KxGrQtDoubleBufferImage::saverUndoesDrawing()
-{
-    QImage image = plain(20, 10, Qt::white);
-    KxQtPainterWrapper painter(&image);
-    {
-        const KxQtGrDCAutoSaver saver(handleOf(&painter));
-        fill(&painter, red);
-        QCOMPARE(image, plain(20, 10, Qt::red));
-    }
-    QCOMPARE(image, plain(20, 10, Qt::white));
-    QVERIFY(!image.paintingActive());
-}
-
-// An implicit copy would give the memory image pixels of its own at the next change.
-void tst_KxGrQtDoubleBufferImage::saverLeavesTheMemoryImage()
-{
-    KxGrQtDoubleBufferImage buffer;
-    buffer.createImages(20, 10, 4);
-    const KxQtGrDCAutoSaver saver(handleOf(buffer.memPainter()));
-    fill(buffer.memPainter(), red);
-    QCOMPARE(buffer.memBits()[2], 0xFF);
-    QCOMPARE(buffer.memImage()->constBits(), buffer.memBits());
-}
-
-void tst_KxGrQtDoubleBufferImage::saverPaintsOver()
-{
-    QImage image = plain(20, 10, Qt::transparent);
-    QPainter(&image).fillRect(0, 0, 10, 10, Qt::blue);
-    KxQtPainterWrapper painter(&image);
-    {
-        const KxQtGrDCAutoSaver saver(handleOf(&painter));
-        fill(&painter, red);
-    }
-    QImage expected = plain(20, 10, Qt::red);
-    QPainter(&expected).fillRect(0, 0, 10, 10, Qt::blue);
-    QCOMPARE(image, expected);
-}
-
-void tst_KxGrQtDoubleBufferImage::saverOfOtherDevices()
-{
-    const KxQtGrDCAutoSaver none(nullptr);
-    KxQtPainterWrapper idle;
-    const KxQtGrDCAutoSaver withoutDevice(handleOf(&idle));
-    QImage null;
-    KxQtPainterWrapper empty(&null);
-    const KxQtGrDCAutoSaver withoutPixels(handleOf(&empty));
-
-    QPixmap pixmap(20, 10);
-    pixmap.fill(Qt::white);
-    KxQtPainterWrapper painter(&pixmap);
-    {
-        const KxQtGrDCAutoSaver saver(handleOf(&painter));
-        fill(&painter, red);
-    }
-    QCOMPARE(pixmap.toImage().convertToFormat(format), plain(pixmap.size(), Qt::red));
-}
-
-void tst_KxGrQtDoubleBufferImage::saverOfADeviceThatChanges()
-{
-    QImage image = plain(20, 10, Qt::white);
-    QImage other = plain(10, 5, Qt::red);
-    QPixmap pixmap(20, 10);
-    pixmap.fill(Qt::red);
-    KxQtPainterWrapper painter(&image);
-    {
-        const KxQtGrDCAutoSaver saver(handleOf(&painter));
-        painter.setWrappedDevice(&other);
-    }
-    QCOMPARE(other, plain(10, 5, Qt::white));
-    painter.setWrappedDevice(&image);
-    {
-        const KxQtGrDCAutoSaver saver(handleOf(&painter));
-        painter.setWrappedDevice(&pixmap);
-    }
-    QCOMPARE(pixmap.toImage().convertToFormat(format), plain(20, 10, Qt::red));
-    painter.setWrappedDevice(&image);
-    {
-        const KxQtGrDCAutoSaver saver(handleOf(&painter));
-        painter.setWrappedDevice(nullptr);
-    }
-    painter.setWrappedDevice(&pixmap);
-    {
-        const KxQtGrDCAutoSaver saver(handleOf(&painter));
-        painter.setWrappedDevice(&image);
-        image.fill(Qt::red);
-    }
-    QCOMPARE(image, plain(20, 10, Qt::red));
 }
 
 QTEST_MAIN(tst_KxGrQtDoubleBufferImage)
