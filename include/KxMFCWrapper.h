@@ -6,6 +6,7 @@
 #include "KxClipboard.h"
 #include "KxCollections.h"
 #include "KxControls.h"
+#include "KxDiagnostics.h"
 #include "KxDialogs.h"
 #include "KxDrawing.h"
 #include "KxFiles.h"

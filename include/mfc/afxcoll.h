@@ -1,0 +1,7 @@
+/// @file afxcoll.h
+/// @brief Lists, maps and arrays.
+#pragma once
+
+#include "afx.h"
+
+#include <KxCollections.h>

@@ -1,0 +1,7 @@
+/// @file atlbase.h
+/// @brief Registry keys.
+#pragma once
+
+#include "windows.h"
+
+#include <KxRegistry.h>

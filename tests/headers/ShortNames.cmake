@@ -1,0 +1,23 @@
+cmake_minimum_required(VERSION 3.25)
+
+# Every function that ends in W has its short name in include/mfc.
+file(GLOB public_headers ${SOURCE_DIR}/include/*.h ${SOURCE_DIR}/platform/include/*.h)
+file(GLOB ported_headers ${SOURCE_DIR}/include/mfc/*.h)
+set(defined)
+foreach(header IN LISTS ported_headers)
+    file(STRINGS ${header} lines REGEX "^#define [A-Za-z]+ [A-Za-z]+W$")
+    list(APPEND defined ${lines})
+endforeach()
+
+foreach(header IN LISTS public_headers)
+    file(STRINGS ${header} lines REGEX "[A-Za-z]W\\(")
+    foreach(line IN LISTS lines)
+        string(REGEX MATCHALL "[A-Z][A-Za-z]+W\\(" names "${line}")
+        foreach(name IN LISTS names)
+            string(REGEX REPLACE "W\\($" "" short ${name})
+            if(NOT "#define ${short} ${short}W" IN_LIST defined)
+                message(SEND_ERROR "${header}: ${short}W has no short name in include/mfc")
+            endif()
+        endforeach()
+    endforeach()
+endforeach()
