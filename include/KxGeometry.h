@@ -143,7 +143,7 @@ struct KX_MFC_EXPORT CRect : RECT
 
     /// All sides 0.
     CRect()
-        : RECT{0, 0, 0, 0}
+        : RECT()
     {
     }
     /// The four sides.
