@@ -1,15 +1,15 @@
 // The precompiled header of a ported program.
 #pragma once
 
-#include <windows.h>
-#include <windowsx.h>
-#include <tchar.h>
-#include <afxwin.h>
-#include <afxext.h>
 #include <afxcmn.h>
-#include <afxdlgs.h>
 #include <afxcoll.h>
-#include <afxtempl.h>
+#include <afxdlgs.h>
+#include <afxext.h>
 #include <afxole.h>
+#include <afxtempl.h>
+#include <afxwin.h>
 #include <atlbase.h>
 #include <atlstr.h>
+#include <tchar.h>
+#include <windows.h>
+#include <windowsx.h>
