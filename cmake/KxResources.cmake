@@ -51,10 +51,14 @@ function(kx_add_resources target script)
     configure_file("${CMAKE_CURRENT_FUNCTION_LIST_DIR}/KxResourceSettings.cmake.in" "${work}/settings.cmake" @ONLY)
     configure_file("${CMAKE_CURRENT_FUNCTION_LIST_DIR}/KxEmbeddedImage.cpp.in" "${work}/resources.cpp" @ONLY)
 
+    set(scripts "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/KxCompileResources.cmake")
+    foreach(part IN ITEMS Encodings Sources Statements)
+        list(APPEND scripts "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/KxResource${part}.cmake")
+    endforeach()
     add_custom_command(
         OUTPUT "${image}"
         COMMAND "${CMAKE_COMMAND}" -P "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/KxCompileResources.cmake" "${work}/settings.cmake"
-        DEPENDS "${script}" "${work}/settings.cmake" "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/KxCompileResources.cmake"
+        DEPENDS "${script}" "${work}/settings.cmake" ${scripts}
         DEPFILE "${work}/image.d"
         COMMENT "Compiling resources ${stem}.rc"
         VERBATIM)

@@ -2,6 +2,10 @@
 #ifndef KX_WINRESRC_H
 #define KX_WINRESRC_H
 
+#define FALSE 0
+#define TRUE 1
+#define WM_USER 0x0400
+
 // Versions of a VERSIONINFO resource
 #define VS_VERSION_INFO 1
 #define VS_FFI_SIGNATURE 0xFEEF04BDL

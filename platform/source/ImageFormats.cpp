@@ -24,13 +24,14 @@ struct BitmapHeader
     std::uint32_t compression = Rgb;
     std::size_t colorsUsed = 0;
     std::size_t colorSize = 4;
+    std::size_t gap = 0; ///< Between the colours and the pixels, which only a file has.
 
     std::size_t colorCount() const
     {
         return colorsUsed || bitsPerPixel > 8 ? colorsUsed : 1U << bitsPerPixel;
     }
     std::size_t masksSize() const;
-    std::size_t pixelsOffset() const { return size + masksSize() + colorCount() * colorSize; }
+    std::size_t pixelsOffset() const { return size + masksSize() + colorCount() * colorSize + gap; }
     std::int64_t rowSize() const { return (width * bitsPerPixel + 31) / 32 * 4; }
     bool isCompressed() const { return compression == Rle8 || compression == Rle4; }
     bool isPlausible() const;
@@ -141,6 +142,25 @@ bool isPlausibleIcon(Bytes icon)
     return header.size == infoHeaderSize && header.isPlausible() && header.height > 1 &&
            !header.isCompressed() && hasRows(icon, header, header.height / 2);
 }
+
+// A bitmap resource is a bitmap file without the file's own header.
+QImage readBitmap(Bytes bitmap, const BitmapHeader &header)
+{
+    if (!header.isPlausible() || !hasRows(bitmap, header, std::abs(header.height)))
+        return {};
+    if (header.bitsPerPixel == 16) {
+        const QImage::Format format = highColorFormat(bitmap, header);
+        if (format != QImage::Format_Invalid)
+            return readHighColor(bitmap, header, format);
+    }
+
+    QByteArray file("BM");
+    append(file, std::uint32_t(fileHeaderSize + bitmap.size));
+    append(file, std::uint32_t(0));
+    append(file, std::uint32_t(fileHeaderSize + header.pixelsOffset()));
+    append(file, bitmap);
+    return readFile(file, "bmp");
+}
 } // namespace
 
 std::vector<IconEntry> readIconGroup(Bytes group)
@@ -162,24 +182,21 @@ std::vector<IconEntry> readIconGroup(Bytes group)
     return entries;
 }
 
-// A bitmap resource is a bitmap file without the file's own header.
 QImage readBitmap(Bytes bitmap)
 {
-    const BitmapHeader header = readHeader(bitmap);
-    if (!header.isPlausible() || !hasRows(bitmap, header, std::abs(header.height)))
-        return {};
-    if (header.bitsPerPixel == 16) {
-        const QImage::Format format = highColorFormat(bitmap, header);
-        if (format != QImage::Format_Invalid)
-            return readHighColor(bitmap, header, format);
-    }
+    return readBitmap(bitmap, readHeader(bitmap));
+}
 
-    QByteArray file("BM");
-    append(file, std::uint32_t(fileHeaderSize + bitmap.size));
-    append(file, std::uint32_t(0));
-    append(file, std::uint32_t(fileHeaderSize + header.pixelsOffset()));
-    append(file, bitmap);
-    return readFile(file, "bmp");
+QImage readBitmapFile(Bytes file)
+{
+    constexpr std::uint16_t signature = 0x4D42;
+    if (file.word(0) != signature)
+        return {};
+    const Bytes bitmap = file.from(fileHeaderSize);
+    BitmapHeader header = readHeader(bitmap);
+    const std::size_t pixelsOffset = fileHeaderSize + header.pixelsOffset();
+    header.gap = std::max<std::size_t>(file.doubleWord(10), pixelsOffset) - pixelsOffset;
+    return readBitmap(bitmap, header);
 }
 
 // An icon resource is what one entry of an icon file points to.

@@ -18,5 +18,8 @@ std::vector<IconEntry> readIconGroup(Bytes group);
 /// @return the bitmap in a resource; null when it is damaged or of a kind that cannot be read.
 QImage readBitmap(Bytes bitmap);
 
+/// @return the bitmap in a file; null as above.
+QImage readBitmapFile(Bytes file);
+
 /// @return one image of an icon; null as above.
 QImage readIcon(Bytes icon);

@@ -4,6 +4,7 @@
 
 #include <KxPlatform.h>
 #include <KxPlatformServices.h>
+#include <QFile>
 #include <QImageReader>
 #include <QPainter>
 #include <algorithm>
@@ -67,12 +68,19 @@ QImage imageOfModule(HINSTANCE handle, const wchar_t *name, UINT type, const QSi
     return type == IMAGE_BITMAP ? bitmapOf(*module, resourceName) : iconOf(*module, resourceName, wanted);
 }
 
-QImage imageOfFile(const wchar_t *name, UINT type, const QSize &wanted)
+QImage bitmapOfFile(const QString &name)
 {
-    const auto file = toFileName(name);
-    if (!file || file->isEmpty())
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly) || file.isSequential())
         return {};
-    QImageReader reader(*file, type == IMAGE_BITMAP ? "bmp" : "ico");
+    const QByteArray content = file.readAll();
+    return readBitmapFile(
+        {reinterpret_cast<const std::uint8_t *>(content.data()), std::size_t(content.size())});
+}
+
+QImage iconOfFile(const QString &name, const QSize &wanted)
+{
+    QImageReader reader(name, "ico");
     QImage best = reader.read();
     while (!wanted.isNull() && reader.jumpToNextImage()) {
         const QImage next = reader.read();
@@ -80,6 +88,14 @@ QImage imageOfFile(const wchar_t *name, UINT type, const QSize &wanted)
             best = next;
     }
     return best;
+}
+
+QImage imageOfFile(const wchar_t *name, UINT type, const QSize &wanted)
+{
+    const auto file = toFileName(name);
+    if (!file || file->isEmpty())
+        return {};
+    return type == IMAGE_BITMAP ? bitmapOfFile(*file) : iconOfFile(*file, wanted);
 }
 
 QImage scaled(const QImage &image, const QSize &wanted)

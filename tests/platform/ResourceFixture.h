@@ -58,8 +58,19 @@ inline QImage loadImage(HINSTANCE module, const wchar_t *name, UINT type = IMAGE
                         int cy = 0, UINT flags = 0)
 {
     const HANDLE handle = LoadImageW(module, name, type, cx, cy, flags);
-    const QImage image = platformServices().image().image(handle);
+    QImage image = platformServices().image().image(handle);
     platformServices().gdiObjects().deleteObject(handle);
+    return image;
+}
+
+// What res/arrow.bmp shows.
+inline QImage arrow()
+{
+    QImage image(3, 2, QImage::Format_RGB32);
+    for (int y = 0; y < 2; ++y) {
+        for (int x = 0; x < 3; ++x)
+            image.setPixelColor(x, y, QColor(x * 100, y * 200, 50));
+    }
     return image;
 }
 

@@ -6,19 +6,21 @@ kx_add_resources(tst_PlatformResources ${scripts}/application.rc DEFINITIONS "KX
 kx_add_resources(tst_PlatformResources ${scripts}/second.rc)
 target_compile_definitions(tst_PlatformResources PRIVATE KX_RESOURCES_DIR="${scripts}/res")
 
-# kx_add_resource_module(name script...): a module with nothing but resources.
-function(kx_add_resource_module name)
+kx_add_test(tst_ResourceScripts SOURCES tst_ResourceScripts.cpp LIBRARIES ${platform_libraries})
+
+# kx_add_resource_module(test name script...): a module for the test with nothing but resources.
+function(kx_add_resource_module test name)
     add_library(${name} MODULE)
     set_target_properties(${name} PROPERTIES PREFIX "" LINKER_LANGUAGE CXX)
     target_link_libraries(${name} PRIVATE kx_build_options)
     foreach(script IN LISTS ARGN)
         kx_add_resources(${name} ${script} INCLUDE_DIRECTORIES ${scripts})
     endforeach()
-    target_compile_definitions(tst_PlatformResources PRIVATE KX_${name}="$<TARGET_FILE:${name}>")
-    add_dependencies(tst_PlatformResources ${name})
+    target_compile_definitions(${test} PRIVATE KX_${name}="$<TARGET_FILE:${name}>")
+    add_dependencies(${test} ${name})
 endfunction()
 
-kx_add_resource_module(satellite ${scripts}/satellite.rc)
+kx_add_resource_module(tst_PlatformResources satellite ${scripts}/satellite.rc)
 target_compile_definitions(tst_PlatformResources PRIVATE KX_MODULE_FILE="$<TARGET_FILE:platform_module>")
 add_dependencies(tst_PlatformResources platform_module)
 
@@ -40,8 +42,20 @@ kx_write_encoded(utf16le UTF-16LE "\\377\\376")
 kx_write_encoded(utf16be UTF-16BE "\\376\\377")
 kx_write_encoded(cp1252 CP1252 "")
 foreach(encoding IN ITEMS utf8 utf8_mark utf16le utf16be cp1252)
-    kx_add_resource_module(encoding_${encoding} ${CMAKE_CURRENT_BINARY_DIR}/encodings/${encoding}.rc)
+    kx_add_resource_module(tst_ResourceScripts encoding_${encoding}
+        ${CMAKE_CURRENT_BINARY_DIR}/encodings/${encoding}.rc)
 endforeach()
+
+# What the resource editor writes, and what people do.
+kx_add_resource_module(tst_ResourceScripts forms ${scripts}/forms.rc)
+kx_add_resource_module(tst_ResourceScripts nothing ${scripts}/nothing.rc)
+
+# Scripts in several code pages.
+set(pages comment.rc first.rc mixed.rc other.rc undefined.rc unmarked.rc)
+foreach(file IN LISTS pages)
+    list(APPEND page_scripts ${scripts}/pages/${file})
+endforeach()
+kx_add_resource_module(tst_ResourceScripts pages ${page_scripts})
 
 # The readers by themselves, from bytes.
 set(platform_source ${PROJECT_SOURCE_DIR}/platform/source)

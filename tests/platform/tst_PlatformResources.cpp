@@ -15,16 +15,6 @@ const bool g_localeIsSet = [] {
     return true;
 }();
 
-QImage arrow()
-{
-    QImage image(3, 2, QImage::Format_RGB32);
-    for (int y = 0; y < 2; ++y) {
-        for (int x = 0; x < 3; ++x)
-            image.setPixelColor(x, y, QColor(x * 100, y * 200, 50));
-    }
-    return image;
-}
-
 QImage blue()
 {
     QImage image(2, 2, QImage::Format_RGB32);
@@ -52,8 +42,6 @@ private Q_SLOTS:
     void languageOfBitmap();
     void chosenLanguage();
     void languageOfTheDefaultLocaleIsKept();
-    void encoding_data();
-    void encoding();
     void satellite();
     void satelliteUsedTwice();
     void moduleWithoutResources();
@@ -68,6 +56,7 @@ private Q_SLOTS:
     void icon();
     void imageOfFile_data();
     void imageOfFile();
+    void bitmapFileIsReadAsTheResource();
     void unknownImage_data();
     void unknownImage();
 };
@@ -250,25 +239,6 @@ void tst_PlatformResources::languageOfTheDefaultLocaleIsKept()
     QCOMPARE(loadString(nullptr, IDS_GREETING), QStringLiteral("Servus"));
 }
 
-void tst_PlatformResources::encoding_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::newRow("UTF-8") << QByteArray(KX_encoding_utf8);
-    QTest::newRow("UTF-8 with mark") << QByteArray(KX_encoding_utf8_mark);
-    QTest::newRow("UTF-16, little-endian") << QByteArray(KX_encoding_utf16le);
-    QTest::newRow("UTF-16, big-endian") << QByteArray(KX_encoding_utf16be);
-    QTest::newRow("code page 1252") << QByteArray(KX_encoding_cp1252);
-}
-
-void tst_PlatformResources::encoding()
-{
-    QFETCH(QByteArray, file);
-    const LoadedModule module(file);
-    QVERIFY(module);
-    QCOMPARE(loadString(module, IDS_GREETING), QString::fromUtf8("\u00fcber \u20ac \u201cq\u201d"));
-    QCOMPARE(loadString(module, IDS_WIDE), QString::fromUtf8("wide \u00fc\u20ac"));
-}
-
 void tst_PlatformResources::satellite()
 {
     const DefaultLocale english(QStringLiteral("en_US"));
@@ -439,6 +409,9 @@ void tst_PlatformResources::imageOfFile_data()
     QTest::newRow("icon asked for as a bitmap") << icon << IMAGE_BITMAP << QSize(0, 0) << QSize(0, 0);
     QTest::newRow("bitmap asked for as an icon") << bitmap << IMAGE_ICON << QSize(0, 0) << QSize(0, 0);
     QTest::newRow("missing") << QStringLiteral("/nowhere.bmp") << IMAGE_BITMAP << QSize(0, 0) << QSize(0, 0);
+    QTest::newRow("directory") << QStringLiteral(KX_RESOURCES_DIR) << IMAGE_BITMAP << QSize(0, 0)
+                               << QSize(0, 0);
+    QTest::newRow("endless") << QStringLiteral("/dev/zero") << IMAGE_BITMAP << QSize(0, 0) << QSize(0, 0);
     QTest::newRow("empty name") << QString() << IMAGE_BITMAP << QSize(0, 0) << QSize(0, 0);
     QTest::newRow("resource name") << QStringLiteral("#300") << IMAGE_BITMAP << QSize(0, 0) << QSize(0, 0);
 }
@@ -456,6 +429,27 @@ void tst_PlatformResources::imageOfFile()
         QCOMPARE(image, arrow());
     if (size == QSize(24, 24))
         QCOMPARE(image.pixelColor(0, 0), QColor(Qt::blue));
+}
+
+void tst_PlatformResources::bitmapFileIsReadAsTheResource()
+{
+    // One white pixel of 16 bits.
+    const QByteArray bytes = QByteArray::fromHex("424d3a000000000000003600000028000000010000000100"
+                                                 "000001001000000000000400000000000000000000000000"
+                                                 "000000000000ff7f0000");
+    const QTemporaryDir directory;
+    QFile file(directory.filePath(QStringLiteral("white.bmp")));
+    const auto load = [&](const QByteArray &content) {
+        const bool written = file.open(QFile::WriteOnly) && file.write(content) == content.size();
+        file.close();
+        return written ? loadImage(nullptr, file.fileName().toStdWString().c_str(), IMAGE_BITMAP, 0, 0,
+                                   LR_LOADFROMFILE)
+                       : arrow();
+    };
+    QCOMPARE(load(bytes).size(), QSize(1, 1));
+    QCOMPARE(load(bytes).pixelColor(0, 0), QColor(Qt::white));
+    for (int size = 0; size < bytes.size(); ++size)
+        QVERIFY2(load(bytes.left(size)).isNull(), qPrintable(QString::number(size)));
 }
 
 void tst_PlatformResources::unknownImage_data()

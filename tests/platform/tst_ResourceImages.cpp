@@ -27,6 +27,8 @@ class tst_ResourceImages : public QObject
 private Q_SLOTS:
     void bitmap_data();
     void bitmap();
+    void bitmapFile_data();
+    void bitmapFile();
     void bitmapCutShort_data();
     void bitmapCutShort();
     void damagedBitmap_data();
@@ -92,6 +94,35 @@ void tst_ResourceImages::bitmap()
     QCOMPARE(image.size(), QSize(3, 2));
     for (int i = 0; i < pixels.size(); ++i)
         QCOMPARE(image.pixel(i % 3, i / 3), pixels[i]);
+}
+
+void tst_ResourceImages::bitmapFile_data()
+{
+    QTest::addColumn<QByteArray>("signature");
+    QTest::addColumn<int>("told");
+    QTest::addColumn<int>("gap");
+    QTest::addColumn<bool>("readable");
+    QTest::newRow("pixels behind the header") << QByteArray("BM") << 54 << 0 << true;
+    QTest::newRow("gap before the pixels") << QByteArray("BM") << 60 << 6 << true;
+    QTest::newRow("no offset told") << QByteArray("BM") << 0 << 0 << true;
+    QTest::newRow("pixels beyond the end") << QByteArray("BM") << 61 << 6 << false;
+    QTest::newRow("largest offset") << QByteArray("BM") << -1 << 0 << false;
+    QTest::newRow("another signature") << QByteArray("BA") << 54 << 0 << false;
+}
+
+void tst_ResourceImages::bitmapFile()
+{
+    QFETCH(QByteArray, signature);
+    QFETCH(int, told);
+    QFETCH(int, gap);
+    QFETCH(bool, readable);
+    QByteArray file = signature + QByteArray(8, '\0');
+    put(file, std::uint32_t(told));
+    file += infoHeader({3, 2, 24}) + QByteArray(gap, '\xEE') + bits24();
+    const QImage image = readBitmapFile(bytesOf(file));
+    QCOMPARE(image.isNull(), !readable);
+    for (int i = 0; readable && i < allColors.size(); ++i)
+        QCOMPARE(image.pixel(i % 3, i / 3), allColors[i]);
 }
 
 void tst_ResourceImages::bitmapCutShort_data()
