@@ -48,14 +48,14 @@ public:
     /// No counterpart on this platform: these load nothing, and give the same result for every object, bound,
     /// unbound or null.
     /// @{
-    /// FALSE.
+    /// @return FALSE.
     BOOL LoadBitmaps(const wchar_t *lpszBitmapResource, const wchar_t *lpszBitmapResourceSel = nullptr,
                      const wchar_t *lpszBitmapResourceFocus = nullptr,
                      const wchar_t *lpszBitmapResourceDisabled = nullptr);
-    /// FALSE.
+    /// @return FALSE.
     BOOL LoadBitmaps(unsigned nIDBitmapResource, unsigned nIDBitmapResourceSel = 0,
                      unsigned nIDBitmapResourceFocus = 0, unsigned nIDBitmapResourceDisabled = 0);
-    /// TRUE, so that dialogs that test it go on.
+    /// @return TRUE, so that dialogs that test it go on.
     BOOL AutoLoad(unsigned nID, CWnd *pParent);
     /// @}
 };

@@ -121,7 +121,7 @@ protected:
     BITMAPINFOHEADER *m_pHeader = nullptr;    ///< From malloc.
     unsigned char *m_pBits = nullptr;         ///< The pixels, from malloc.
     unsigned char **m_pRows = nullptr;        ///< Start of each row, from new[].
-    int m_nBitsPerPixel = 0;
+    int m_nBitsPerPixel = 0;                  ///< 32, and 0 without a bitmap.
     /// @}
 
 private:

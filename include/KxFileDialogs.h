@@ -116,7 +116,7 @@ public:
     /// @param filter names and patterns in turn, parted and ended by `|`. Only the names are used, and Qt
     /// takes the patterns from the parentheses in them: `Text (*.txt)|*.txt|All (*.*)|*.*||`. Null for none.
     /// @param parent its handle's widget becomes the dialog's Qt parent, and deletes the dialog if it goes
-    /// first: DoModal() then gives 0. Null, unbound and a destroyed widget give no parent.
+    /// first: DoModal() then gives 0. Null, one that was never bound, and a destroyed widget give no parent.
     /// @param size ignored.
     /// @param vistaStyle ignored.
     explicit CFileDialog(bool openDialog, const wchar_t *defExt = nullptr, const wchar_t *fileName = nullptr,

@@ -275,13 +275,13 @@ public:
 protected:
     /// @name Fields
     /// @{
-    path_type m_type = PT_EMPTY;
+    path_type m_type = PT_EMPTY;               ///< What the path names, as last asked or edited.
     CKdUiVolumeDescriptor *m_volume = nullptr; ///< Borrowed from ::volumeList; null without a volume.
     CString *m_path = nullptr;                 ///< Owned; null when empty.
     CString *m_baseDir = nullptr;              ///< Owned: the base's full path; "" if rooted; null otherwise.
-    path_category m_category = PC_RELATIVE;
-    wchar_t m_separator = L'/';
-    bool m_explicit = false; ///< The parsed path held a separator, or its text a colon.
+    path_category m_category = PC_RELATIVE;    ///< How the text begins.
+    wchar_t m_separator = L'/';                ///< Between components; nothing changes it.
+    bool m_explicit = false;                   ///< The parsed path held a separator, or its text a colon.
     /// @}
 
 private:
