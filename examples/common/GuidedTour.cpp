@@ -5,8 +5,11 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QScreen>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -33,20 +36,31 @@ void endHungTour(int)
     _exit(EXIT_FAILURE);
 }
 
-QRect visibleArea()
+int depthOf(const QWidget *window)
 {
-    QRect area;
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (const QWidget *window : windows) {
-        if (window->isVisible())
-            area |= window->frameGeometry();
-    }
-    return area;
+    const QWidget *parent = window->parentWidget();
+    return parent ? depthOf(parent) + 1 : 0;
+}
+
+// A window stands in front of those that it belongs to, and the modal one in front of all.
+QWidgetList windowsFromBehind()
+{
+    QWidgetList windows = QApplication::topLevelWidgets();
+    windows.erase(std::remove_if(windows.begin(), windows.end(),
+                                 [](const QWidget *window) { return !window->isVisible(); }),
+                  windows.end());
+    std::sort(windows.begin(), windows.end(),
+              [](const QWidget *left, const QWidget *right) { return depthOf(left) < depthOf(right); });
+    windows.removeOne(QApplication::activeModalWidget());
+    return windows << QApplication::activeModalWidget();
 }
 
 QPixmap visibleWindows()
 {
-    const QRect area = visibleArea();
+    const QWidgetList windows = windowsFromBehind();
+    QRect area;
+    for (const QWidget *window : windows)
+        area |= window->frameGeometry();
     if (QGuiApplication::platformName() == QLatin1String("xcb"))
         return QGuiApplication::primaryScreen()->grabWindow(0, area.x(), area.y(), area.width(),
                                                             area.height());
@@ -54,18 +68,18 @@ QPixmap visibleWindows()
     QPixmap picture(area.size());
     picture.fill(Qt::darkGray);
     QPainter painter(&picture);
-    const auto draw = [&](QWidget *window) {
+    for (QWidget *window : windows) {
         const QRect place = window->geometry().translated(-area.topLeft());
         painter.drawPixmap(place.topLeft(), window->grab());
         painter.drawRect(place.adjusted(-1, -1, 0, 0));
-    };
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (window->isVisible() && window != QApplication::activeModalWidget())
-            draw(window);
     }
-    draw(QApplication::activeModalWidget());
     return picture;
+}
+
+QTemporaryDir &settingsFolder()
+{
+    static QTemporaryDir folder;
+    return folder;
 }
 
 } // namespace
@@ -76,6 +90,14 @@ GuidedTour::GuidedTour(const QString &folder)
     programName = QCoreApplication::applicationName().toLocal8Bit();
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &GuidedTour::playNextStep);
+}
+
+bool GuidedTour::useOwnSettings()
+{
+    if (settingsFolder().isValid())
+        return qputenv("XDG_CONFIG_HOME", QFile::encodeName(settingsFolder().path()));
+    std::fprintf(stderr, "%s: cannot make a temporary settings folder\n", program_invocation_short_name);
+    return false;
 }
 
 int GuidedTour::run()
@@ -128,7 +150,8 @@ void GuidedTour::playNextStep()
 
     ++m_next;
     step.act();
-    shoot();
+    QTest::qWait(50); // lets the windows be painted
+    shoot(step.name);
     // Before leaving: a key press that opens a modal window returns only when that window is closed.
     m_timer.start(0);
     if (step.leave)
@@ -139,7 +162,7 @@ bool GuidedTour::windowIsReady(Window window) const
 {
     QWidget *modal = QApplication::activeModalWidget();
     const bool wanted =
-        modal && (qobject_cast<QMessageBox *>(modal) != nullptr) == (window == Window::MessageBox);
+        modal && (qobject_cast<QMessageBox *>(modal) != nullptr) == (window == Window::Message);
     if (!wanted || !modal->windowHandle()->isExposed())
         return false;
     // Offscreen there is no window manager to activate the dialog, and elsewhere one may have come too late.
@@ -182,6 +205,14 @@ void GuidedTour::expectText(const char *widget, const QString &shown, const QStr
            QStringLiteral("%1 shows \"%2\", not \"%3\"").arg(QLatin1String(widget), shown, expected));
 }
 
+// Looks at the file itself, so that nothing cached in this process can stand in for it.
+void GuidedTour::expectStored(const QByteArray &line)
+{
+    QFile store(settingsFolder().filePath(QStringLiteral("Orvane/Velmo.conf")));
+    expect(store.open(QIODevice::ReadOnly) && store.readAll().split('\n').contains(line),
+           QStringLiteral("the settings file has no line %1").arg(QLatin1String(line)));
+}
+
 void GuidedTour::expect(bool holds, const QString &what)
 {
     // Only the first failure is told: the others mostly follow from it.
@@ -191,9 +222,8 @@ void GuidedTour::expect(bool holds, const QString &what)
     std::fprintf(stderr, "%s: %s: %s\n", programName.constData(), currentStep, qPrintable(what));
 }
 
-void GuidedTour::shoot()
+void GuidedTour::shoot(const char *name)
 {
-    QTest::qWait(50); // lets the windows be painted
-    const QString file = m_folder.filePath(QLatin1String(currentStep) + QStringLiteral(".png"));
+    const QString file = fileInFolder(QLatin1String(name) + QStringLiteral(".png"));
     expect(visibleWindows().save(file), QStringLiteral("cannot write %1").arg(file));
 }

@@ -16,11 +16,14 @@ public:
     /// @param folder receives the screenshots.
     explicit GuidedTour(const QString &folder);
 
+    /// Redirects the settings of this process to a temporary folder. Call it before the QApplication is made.
+    static bool useOwnSettings();
+
     /// @return the exit code: 0 when every expectation held.
     int run();
 
 protected:
-    enum class Window { Form, MessageBox };
+    enum class Window { Form, Message };
 
     struct Step
     {
@@ -39,6 +42,8 @@ protected:
 
     void expect(bool holds, const QString &what);
     void expectText(const char *widget, const QString &shown, const QString &expected);
+    /// Expects a line in the file that the program keeps its settings in, after useOwnSettings().
+    void expectStored(const QByteArray &line);
 
     /// @return the control of that object name in the current modal window.
     template <typename Widget> static Widget *control(const char *name)
@@ -52,6 +57,9 @@ protected:
     /// Replaces the text of a QLineEdit.
     static void type(const char *name, const QString &text);
 
+    /// Leaves a screenshot of this moment, for example while the program is busy.
+    void shoot(const char *name);
+
     /// @return the absolute path of a file beside the screenshots.
     QString fileInFolder(const QString &name) const;
 
@@ -59,7 +67,6 @@ private:
     bool folderIsWritable();
     void playNextStep();
     bool windowIsReady(Window window) const;
-    void shoot();
 
     QDir m_folder;
     QTimer m_timer; ///< Calls playNextStep().

@@ -34,7 +34,7 @@ void Tour::walk()
          {"09-cleared", Window::Form, [this] { clearAndUndo(); }, {}},
          {"10-printed", Window::Form, [this] { print(); }, {}},
          {"11-bad-file", Window::Form, [this] { typeBadFile(); }, [] { click("print"); }},
-         {"12-refused", Window::MessageBox, [this] { showsRefusal(); }, [] { press(Qt::Key_Return); }},
+         {"12-refused", Window::Message, [this] { showsRefusal(); }, [] { press(Qt::Key_Return); }},
          {"13-closed", Window::Form, [this] { expectStatus(QStringLiteral("Not printed")); },
           [] { press(Qt::Key_Escape); }}},
         [] { return theApp.ShowSketch(); }, IDCANCEL);
