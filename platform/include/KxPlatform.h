@@ -4,6 +4,9 @@
 /// File names are UTF-32 texts and reach the file system as QFile::encodeName() encodes them. A name that
 /// holds something other than Unicode code points, or that has no encoding, names no file: the function
 /// fails. A null argument gives the failure value; nothing here throws.
+///
+/// A platform library that takes the place of this one (see docs/platform.md) defines all that is declared here and in
+/// KxEmbeddedResources.h.
 #pragma once
 
 #include "KxPlatformExport.h"

@@ -1,7 +1,11 @@
 /// @file KxPlatformServices.h
 /// @brief The platform services: keyboard, images, GDI objects and path correction.
 ///
-/// A built-in set serves unless setPlatformServices() installs another. All calls come on the GUI thread.
+/// A built-in set serves unless setPlatformServices() installs another. All calls come on the GUI thread. A set of
+/// your own may hand out services of the set that platformServices() gave before, and need only replace some.
+///
+/// A platform library that takes the place of this one (see docs/platform.md) defines all that is declared here,
+/// the destructors included.
 #pragma once
 
 #include "KxPlatformExport.h"
@@ -99,7 +103,8 @@ public:
     virtual bool correct(const std::wstring &path, std::wstring &corrected) = 0;
 };
 
-/// The set of services.
+/// The set of services. Each member gives the same service on each call: the handles of bitmaps and brushes belong
+/// to the one that made them.
 class KX_PLATFORM_EXPORT KxPlatformServices
 {
 public:
