@@ -18,7 +18,7 @@ struct KX_MFC_EXPORT CSize : SIZE
         : SIZE{0, 0}
     {
     }
-    /// @param initCX width, @param initCY height.
+    /// A size of @p initCX by @p initCY.
     CSize(int initCX, int initCY)
         : SIZE{initCX, initCY}
     {
@@ -58,9 +58,9 @@ struct KX_MFC_EXPORT CSize : SIZE
     CPoint operator+(const POINT &point) const;
     /// @return @p point mirrored at the half of this size: this size less the point.
     CPoint operator-(const POINT &point) const;
-    /// @return @p rect moved by this size.
+    /// @return @p rect, which must not be null, moved by this size.
     CRect operator+(const RECT *rect) const;
-    /// @return @p rect moved back by this size.
+    /// @return @p rect, which must not be null, moved back by this size.
     CRect operator-(const RECT *rect) const;
 };
 
@@ -72,7 +72,7 @@ struct KX_MFC_EXPORT CPoint : POINT
         : POINT{0, 0}
     {
     }
-    /// @param initX column, @param initY row.
+    /// The point in column @p initX and row @p initY.
     CPoint(int initX, int initY)
         : POINT{initX, initY}
     {
@@ -87,8 +87,8 @@ struct KX_MFC_EXPORT CPoint : POINT
         : POINT{size.cx, size.cy}
     {
     }
-    /// The point that a mouse message packs into its parameter: x in the low 16 bits, y in the next ones, both
-    /// signed.
+    /// The point that a mouse message packs into its parameter: x in the low 16 bits, y in the next ones,
+    /// both signed.
     explicit CPoint(LPARAM packed)
         : POINT{SHORT(packed & 0xFFFF), SHORT(packed >> 16 & 0xFFFF)}
     {
@@ -96,7 +96,7 @@ struct KX_MFC_EXPORT CPoint : POINT
     /// @return this point's record, for functions that take a pointer.
     operator POINT *() { return this; }
 
-    /// Moves the point.
+    /// Moves the point by @p xOffset columns and @p yOffset rows.
     void Offset(int xOffset, int yOffset) { *this += CSize(xOffset, yOffset); }
     /// Moves the point by the coordinates of @p point.
     void Offset(const POINT &point) { *this += point; }
@@ -128,9 +128,9 @@ struct KX_MFC_EXPORT CPoint : POINT
     CSize operator-(const POINT &point) const { return {x - point.x, y - point.y}; }
     /// @return the point mirrored at the origin.
     CPoint operator-() const { return {-x, -y}; }
-    /// @return @p rect moved by this point's coordinates.
+    /// @return @p rect, which must not be null, moved by this point's coordinates.
     CRect operator+(const RECT *rect) const;
-    /// @return @p rect moved back by this point's coordinates.
+    /// @return @p rect, which must not be null, moved back by this point's coordinates.
     CRect operator-(const RECT *rect) const;
 };
 
@@ -146,7 +146,7 @@ struct KX_MFC_EXPORT CRect : RECT
         : RECT()
     {
     }
-    /// The four sides.
+    /// The rectangle with left side @p l, top @p t, right side @p r and bottom @p b.
     CRect(int l, int t, int r, int b)
         : RECT{l, t, r, b}
     {
@@ -229,7 +229,7 @@ struct KX_MFC_EXPORT CRect : RECT
     void DeflateRect(const RECT *rect) { DeflateRect(rect->left, rect->top, rect->right, rect->bottom); }
     /// Moves each side inwards by its own amount.
     void DeflateRect(int l, int t, int r, int b) { InflateRect(-l, -t, -r, -b); }
-    /// Moves the rectangle.
+    /// Moves the rectangle by @p x columns and @p y rows.
     void OffsetRect(int x, int y);
     /// Moves the rectangle by @p size.
     void OffsetRect(const SIZE &size) { OffsetRect(size.cx, size.cy); }
@@ -247,11 +247,11 @@ struct KX_MFC_EXPORT CRect : RECT
     void NormalizeRect();
     /// Swaps the left and right sides.
     void SwapLeftRight();
-    /// Becomes what both rectangles have in common; all sides 0 when that is nothing.
-    /// @param rect1 first rectangle, @param rect2 second one; null makes the result empty.
+    /// Becomes what @p rect1 and @p rect2 have in common; all sides 0 when that is nothing. A null one makes
+    /// the result empty. Either may be this rectangle.
     /// @return whether they have something in common.
     BOOL IntersectRect(const RECT *rect1, const RECT *rect2);
-    /// Becomes the smallest rectangle that holds both; an empty or null one does not count.
+    /// Becomes the smallest rectangle that holds @p rect1 and @p rect2; an empty or null one does not count.
     /// @return whether the result is not empty.
     BOOL UnionRect(const RECT *rect1, const RECT *rect2);
     /// Becomes @p rect1 without what @p rect2 covers, if that leaves a rectangle: @p rect2 has to reach
@@ -262,7 +262,7 @@ struct KX_MFC_EXPORT CRect : RECT
 
     /// @name Operators
     /// `+` and `-` with a point or size move; with a rectangle they move each side outwards or inwards.
-    /// `&` and `|` are IntersectRect() and UnionRect().
+    /// `&` and `|` are IntersectRect() and UnionRect(). A rectangle given by its address must not be null.
     /// @{
     bool operator==(const RECT &rect) const; ///< @return whether all sides are equal.
     bool operator!=(const RECT &rect) const { return !(*this == rect); } ///< @return whether a side differs.
