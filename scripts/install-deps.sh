@@ -9,7 +9,7 @@ test_packages=("${demo_packages[@]}"
     clang lld llvm libclang-rt-14-dev clang-format clang-tidy
     xvfb openbox x11-utils poppler-utils libbenchmark-dev doxygen
     pkg-config dpkg-dev)
-release_packages=("${demo_packages[@]}" dpkg-dev abigail-tools)
+release_packages=("${demo_packages[@]}" dpkg-dev doxygen abigail-tools)
 
 missing_packages()
 {
