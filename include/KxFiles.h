@@ -211,8 +211,8 @@ private:
 /// A text file of lines, on a QTextStream over the file.
 ///
 /// Text is encoded by Qt's codec for the locale; when reading, a byte order mark selects a Unicode encoding.
-/// The stream is attached by Open() alone. It reads and writes ahead: do not mix its members with Read(),
-/// Write() and Seek() without a Flush() between them.
+/// The stream is attached by Open() alone. It reads and writes ahead, so do not mix its members with Read(),
+/// Write() and Seek(): after ReadString() neither Flush() nor Seek() brings the stream back, Open() does.
 class KX_MFC_EXPORT CStdioFile : public CFile
 {
 public:
@@ -230,7 +230,7 @@ public:
     BOOL Open(const wchar_t *name, unsigned flags, CFileException *error = nullptr) override;
     /// Writes the text that WriteString() collected, and closes the file.
     void Close() override;
-    /// Writes the text that WriteString() collected.
+    /// Writes the text that WriteString() collected, and not what Write() did.
     void Flush() override;
 
     /// Writes @p text as it is; no line end is added.
