@@ -143,7 +143,8 @@ public:
     /// Registers @p h as this window's control @p nID. Ported dialogs tell their controls this way.
     ///
     /// An identifier keeps the first handle registered under it. Qt may give the address of a destroyed
-    /// widget to a new one: an object that was left behind under this handle is then bound to the new widget.
+    /// widget to a new one: an object that was left behind under this handle is then bound to the new widget,
+    /// which it does not delete, whatever SetAutoDelete() said.
     /// @param nID the control's identifier.
     /// @param h the address of a living QWidget, or null.
     /// @return non-zero; unbound: 0.
