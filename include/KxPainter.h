@@ -177,8 +177,9 @@ public:
     /// @name Clipping and transformation
     /// @{
 
-    /// Sets the clip region, now and for every later beginDraw(): the odd-even area of polygons. They are cut
-    /// 4096 pixels off the device, so that huge ones cost no more than others.
+    /// Sets the clip region, now and for every later beginDraw(): the odd-even area of polygons, in logical
+    /// coordinates. They are cut where they are beyond 8192 and 4096 off what the device shows, and beyond
+    /// 32768, so that huge ones cost no more than others.
     /// @param pts the points of all polygons, one after the other.
     /// @param counts the number of points of each polygon.
     /// @param n number of polygons. When it is 0, or an array is null, clipping is removed; so it is when the
