@@ -1,5 +1,8 @@
 /// @file KxApplication.h
 /// @brief The application object, its settings, message boxes, and the document placeholders.
+///
+/// There is no initialisation call: the constructor of the application's CWinApp subclass stores the object
+/// in #g_pWinApp, and the application makes its QApplication and shows its windows itself.
 #pragma once
 
 #include "KxString.h"
@@ -34,6 +37,7 @@ public:
     /// The main window; not owned.
     CWnd *m_pMainWnd = nullptr;
 
+    /// An application object without a main window. It stores itself nowhere: see #g_pWinApp.
     CWinApp();
     CWinApp(const CWinApp &) = delete;
     CWinApp &operator=(const CWinApp &) = delete;
@@ -44,14 +48,14 @@ public:
     virtual HCURSOR LoadStandardCursor(UINT nIDCursor);                ///< Fixed result: null.
     /// @return #m_pMainWnd.
     virtual CWnd *GetMainWnd();
-    /// Sets #m_pMainWnd.
+    /// Sets #m_pMainWnd, which is not owned; null for none.
     virtual void SetMainWnd(CWnd *pWnd);
     virtual CDocument *OpenDocumentFile(const wchar_t *lpszFileName); ///< Fixed result: null.
     /// Reads an integer.
-    /// @return the stored value, 0 when it is no number; @p nDefault when there is none or a name is null or
-    /// the entry is empty.
+    /// @return the value of @p lpszEntry in @p lpszSection, 0 when it is no number; @p nDefault when there is
+    /// none or a name is null or the entry is empty.
     virtual int GetProfileIntW(const wchar_t *lpszSection, const wchar_t *lpszEntry, int nDefault);
-    /// Stores an integer.
+    /// Stores @p nValue as @p lpszEntry in @p lpszSection.
     /// @return TRUE, also when the settings cannot be written; FALSE when a name is null or the entry is
     /// empty.
     virtual BOOL WriteProfileInt(const wchar_t *lpszSection, const wchar_t *lpszEntry, int nValue);
@@ -76,23 +80,34 @@ public:
 /// Buttons: MB_YESNOCANCEL; else OK and Cancel when bit MB_OKCANCEL is set (so MB_RETRYCANCEL as well); else
 /// Yes and No when bit MB_YESNO is set (so MB_CANCELTRYCONTINUE as well) or when the icon is the question;
 /// else OK. The box stays on top, has no parent, and lets Qt decide whether the text is rich text.
+/// @param lpText the text; null counts as empty.
 /// @param lpCaption the title; null gives "Velmo.".
 /// @param uType MB_ flags: buttons and icon.
 /// @return IDOK, IDCANCEL, IDYES or IDNO; 0 when the box was closed otherwise.
 KX_MFC_EXPORT int MessageBoxW(const wchar_t *lpText, const wchar_t *lpCaption, UINT uType);
-/// The same; @p hWnd is ignored.
+/// The same for ported code that names an owner; @p hWnd is ignored.
+/// @return as the other MessageBoxW().
 KX_MFC_EXPORT int MessageBoxW(HWND hWnd, const wchar_t *lpText, const wchar_t *lpCaption, UINT uType);
-/// MessageBoxW() titled "Velmo."; @p nIDHelp is ignored.
+/// MessageBoxW() titled "Velmo.".
+/// @param lpszText the text; null counts as empty.
+/// @param nType MB_ flags: buttons and icon.
+/// @param nIDHelp ignored: there is no help button.
+/// @return as MessageBoxW().
 KX_MFC_EXPORT int AfxMessageBox(const wchar_t *lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
 /// Shows a string resource, an empty text when there is none.
 ///
 /// The box always has a single OK button and no icon: @p nType is dropped, unlike MFC, and so is @p nIDHelp.
+/// @param nIDPrompt the string's identifier in the module set with AfxSetResourceHandle().
+/// @param nType ignored.
+/// @param nIDHelp ignored.
+/// @return IDOK; 0 when the box was closed otherwise.
 KX_MFC_EXPORT int AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = 0xFFFFFFFF);
 
 /// Placeholder for ported document classes.
 class KX_MFC_EXPORT CDocument
 {
 public:
+    /// Does nothing.
     CDocument();
     CDocument(const CDocument &) = delete;
     CDocument &operator=(const CDocument &) = delete;

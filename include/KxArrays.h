@@ -21,9 +21,10 @@
 /// unchanged.
 ///
 /// Value arguments may refer to elements of the array itself. Arrays are not copied implicitly (see Copy())
-/// and not synchronised. Unlike MFC's they do not derive from CObject and have no virtual members. @tparam
-/// Array    the class that derives from this one. @tparam Element  the element type. @tparam Value    how an
-/// element is passed and returned: by value, or by constant reference.
+/// and not synchronised. Unlike MFC's they do not derive from CObject and have no virtual members.
+/// @tparam Array the class that derives from this one.
+/// @tparam Element the element type.
+/// @tparam Value how an element is passed and returned: by value, or by constant reference.
 template <typename Array, typename Element, typename Value> class KX_MFC_EXPORT KxArray
 {
 public:
@@ -159,8 +160,10 @@ protected:
     INT_PTR m_nGrowBy = 0;      ///< Slots to add at each growth; 0 computes them.
 };
 
-/// What CWordArray, CByteArray and CPtrArray add to KxArray: direct access to the storage. @tparam
-/// ConstElement  the element type that the constant GetData() points to.
+/// What CWordArray, CByteArray and CPtrArray add to KxArray: direct access to the storage.
+/// @tparam Array the class that derives from this one.
+/// @tparam Element the element type.
+/// @tparam ConstElement the element type that the constant GetData() points to.
 template <typename Array, typename Element, typename ConstElement>
 class KX_MFC_EXPORT KxPlainArray : public KxArray<Array, Element, Element>
 {

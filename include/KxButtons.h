@@ -1,5 +1,5 @@
 /// @file KxButtons.h
-/// @brief Push buttons, check boxes and radio buttons.
+/// @brief Push buttons, check boxes and radio buttons: CButton, over any QAbstractButton.
 #pragma once
 
 #include "KxWindows.h"
@@ -48,6 +48,7 @@ public:
     /// No counterpart on this platform: these load nothing, and give the same result for every object, bound,
     /// unbound or null.
     /// @{
+
     /// @return FALSE.
     BOOL LoadBitmaps(const wchar_t *lpszBitmapResource, const wchar_t *lpszBitmapResourceSel = nullptr,
                      const wchar_t *lpszBitmapResourceFocus = nullptr,

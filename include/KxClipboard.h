@@ -1,6 +1,9 @@
 /// @file KxClipboard.h
 /// @brief Clipboard formats and the data objects that copy and paste under them.
 ///
+/// Data is copied with COleDataSource::CacheGlobalData() under a number that RegisterClipboardFormatW() gave,
+/// as a block of memory from CSharedFile::Detach(), and pasted with COleDataObject::GetGlobalData().
+///
 /// The clipboard is a store of this process. Unlike in Win32 the desktop's clipboard is neither read nor
 /// written, and nothing empties the store.
 #pragma once
@@ -17,7 +20,8 @@ class KxPlatformClipboard;
 using CLIPFORMAT = WORD;
 
 /// @name Built-in formats
-/// Each enumeration reports CF_UNICODETEXT and CF_BITMAP first. No built-in format ever has data.
+/// None of them ever has data: register a format of your own with RegisterClipboardFormatW(). Each
+/// enumeration reports CF_UNICODETEXT and CF_BITMAP first all the same.
 /// @{
 constexpr CLIPFORMAT CF_TEXT = 1;
 constexpr CLIPFORMAT CF_BITMAP = 2;
@@ -41,11 +45,11 @@ constexpr CLIPFORMAT CF_DIBV5 = 17;
 /// A format of a data object. Only #cfFormat is ever written, and nothing is read.
 struct FORMATETC
 {
-    CLIPFORMAT cfFormat; ///< Number of the format.
-    struct DVTARGETDEVICE *ptd;
-    DWORD dwAspect;
-    LONG lindex;
-    DWORD tymed;
+    CLIPFORMAT cfFormat;        ///< Number of the format.
+    struct DVTARGETDEVICE *ptd; ///< Not used.
+    DWORD dwAspect;             ///< Not used.
+    LONG lindex;                ///< Not used.
+    DWORD tymed;                ///< Not used.
 };
 
 static_assert(offsetof(FORMATETC, cfFormat) == 0 && offsetof(FORMATETC, ptd) == 8);
@@ -75,7 +79,8 @@ extern KX_MFC_EXPORT int g_iCFIndex;
 /// UTF-16 form as another registered name.
 KX_MFC_EXPORT UINT RegisterClipboardFormatW(const wchar_t *name);
 
-/// @param i position of a built-in format in an enumeration.
+/// Gives the built-in format at a position of an enumeration.
+/// @param i the position, from 0.
 /// @return CF_UNICODETEXT for 0, CF_BITMAP for 1, CF_TEXT for any other number.
 KX_MFC_EXPORT CLIPFORMAT TOCLIPFORMAT(int i);
 
@@ -90,12 +95,16 @@ public:
     /// Frees the data of all formats, if attached; the formats stay registered.
     ~KxPlatformClipboard();
 
-    /// @return whether @p format is registered and has data; false when not attached.
+    /// Tells whether there is data under a format.
+    /// @param format the format's number.
     /// @param fe ignored.
+    /// @return whether @p format is registered and has data; false when not attached.
     bool isDataAvailable(unsigned short format, FORMATETC *fe) const;
+    /// Gives the data under a format.
+    /// @param format the format's number.
+    /// @param fe ignored.
     /// @return the handle cached for @p format, which the store keeps; null when there is none or when not
     /// attached. Its memory is that of the application's last CacheGlobalData().
-    /// @param fe ignored.
     HGLOBAL getGlobalData(unsigned short format, FORMATETC *fe) const;
 
     /// Attaches the object to #g_clipboardData.
@@ -121,9 +130,9 @@ class KX_MFC_EXPORT COleDataSource
 public:
     /// Hands a block of memory over to the clipboard and frees the one that @p format had, handle and block.
     ///
-    /// The handle stays the caller's when the number was not registered or its name is empty; a number that was
-    /// not registered takes a step in later enumerations all the same. Nothing else happens when the clipboard
-    /// holds the handle already, whether for this format or another, and when the handle is null.
+    /// The handle stays the caller's when the number was not registered or its name is empty; a number that
+    /// was not registered takes a step in later enumerations all the same. Nothing else happens when the
+    /// clipboard holds the handle already, whether for this format or another, and when the handle is null.
     /// @param format a number from RegisterClipboardFormatW().
     /// @param hGlobal a KxGlobalMemory as made by CSharedFile::Detach(); owned by the clipboard from now on.
     void CacheGlobalData(unsigned format, HGLOBAL hGlobal);
@@ -135,15 +144,20 @@ class KX_MFC_EXPORT COleDataObject
 public:
     /// An object on #g_platformClipboard.
     COleDataObject();
+    /// Leaves the data alone.
     ~COleDataObject();
 
-    /// @return whether @p format has data; false before the first AttachClipboard() of any object.
+    /// Tells whether there is data under a format.
+    /// @param format the format's number.
     /// @param fe ignored.
+    /// @return whether @p format has data; false before the first AttachClipboard() of any object.
     bool IsDataAvailable(unsigned short format, FORMATETC *fe = nullptr) const;
+    /// Gives the data under a format.
+    /// @param format the format's number.
+    /// @param fe ignored.
     /// @return the handle that was cached for @p format; null when there is none and before the first
     /// AttachClipboard() of any object. Unlike in MFC it is no copy: it stays the clipboard's and is valid
     /// until other data is cached for the format. Do not free it.
-    /// @param fe ignored.
     HGLOBAL GetGlobalData(unsigned short format, FORMATETC *fe = nullptr) const;
 
     /// Gives all data objects access to the clipboard, for good.
@@ -151,7 +165,9 @@ public:
     bool AttachClipboard();
     /// Starts the enumeration anew.
     void BeginEnumFormats();
-    /// @return as KxPlatformClipboard::getNextFormat().
+    /// Steps to the next format, as KxPlatformClipboard::getNextFormat() does.
+    /// @param fe receives the number in FORMATETC::cfFormat.
+    /// @return false at the end, and when @p fe is null, where the step is not taken.
     bool GetNextFormat(FORMATETC *fe);
 
 private:

@@ -1,18 +1,20 @@
 /// @file KxCommonControls.h
 /// @brief Tab, slider, scroll bar, spin button, tool tip and image list.
 ///
-/// "Unbound" also covers a widget of another class than the one named, and a null object.
+/// CTabCtrl serves a QTabWidget; CSliderCtrl and CScrollBar serve any QAbstractSlider. The others exist so
+/// that ported code compiles, and do nothing. "Unbound" also covers a widget of another class than the one
+/// named, and a null object.
 #pragma once
 
 #include "KxWindows.h"
 
 class CBitmap;
 
-/// @name Members of a TCITEMW that are valid
+/// @name Fields of TCITEMW
 /// @{
-constexpr UINT TCIF_TEXT = 0x0001;
-constexpr UINT TCIF_IMAGE = 0x0002;
-constexpr UINT TCIF_PARAM = 0x0008;
+constexpr UINT TCIF_TEXT = 0x0001;  ///< TCITEMW::pszText.
+constexpr UINT TCIF_IMAGE = 0x0002; ///< TCITEMW::iImage.
+constexpr UINT TCIF_PARAM = 0x0008; ///< TCITEMW::lParam.
 /// @}
 
 /// A tab, as CTabCtrl::InsertItem() takes it. No function of this library reads one.
@@ -99,6 +101,7 @@ public:
     /// Moves the handle, with the widget's signals, to @p nPos bounded to the range.
     void SetPos(int nPos);
     /// Sets the range and bounds the value to it, with the widget's signals.
+    /// @param nMin the minimum.
     /// @param nMax the maximum; below @p nMin it counts as @p nMin.
     /// @param bRedraw ignored.
     void SetRange(int nMin, int nMax, bool bRedraw = false);
@@ -142,11 +145,13 @@ public:
     /// Leaves the widget alone.
     ~CScrollBar() override;
 
-    /// Sets the value, with the widget's signals, to @p nPos bounded to the range.
+    /// Sets the value, with the widget's signals.
+    /// @param nPos the value, which is bounded to the range.
     /// @param bRedraw ignored.
     /// @return the former value; unbound: 0.
     int SetScrollPos(int nPos, bool bRedraw = true);
     /// Sets the range and bounds the value to it, with the widget's signals.
+    /// @param nMinPos the minimum.
     /// @param nMaxPos the maximum; below @p nMinPos it counts as @p nMinPos.
     /// @param bRedraw ignored.
     void SetScrollRange(int nMinPos, int nMaxPos, bool bRedraw = true);

@@ -1,5 +1,10 @@
 /// @file KxDeviceContext.h
 /// @brief Device contexts and GDI objects.
+///
+/// A CDC draws on a CBitmap that is selected into it, or on the window whose CWnd::GetDC() gave it, once
+/// _CreateDCforHwnd() made the window's device. CBrush and CBitmap hold handles of the platform's GDI
+/// objects; CFont and the other tools of a context have no counterpart here: draw with the KxQtPainterWrapper
+/// of the device.
 #pragma once
 
 #include "KxPainter.h"
@@ -11,29 +16,29 @@ class CPalette;
 class CPen;
 class CRgn;
 
-/// Measures of a font. No function of this library fills one.
+/// Measures of a font, in pixels unless said otherwise. No function of this library fills one.
 struct TEXTMETRICW
 {
-    LONG tmHeight;
-    LONG tmAscent;
-    LONG tmDescent;
-    LONG tmInternalLeading;
-    LONG tmExternalLeading;
-    LONG tmAveCharWidth;
-    LONG tmMaxCharWidth;
-    LONG tmWeight;
-    LONG tmOverhang;
-    LONG tmDigitizedAspectX;
-    LONG tmDigitizedAspectY;
-    wchar_t tmFirstChar;
-    wchar_t tmLastChar;
-    wchar_t tmDefaultChar;
-    wchar_t tmBreakChar;
-    BYTE tmItalic;
-    BYTE tmUnderlined;
-    BYTE tmStruckOut;
-    BYTE tmPitchAndFamily;
-    BYTE tmCharSet;
+    LONG tmHeight;           ///< Height of a line: ascent and descent.
+    LONG tmAscent;           ///< From the top of a line to its base line.
+    LONG tmDescent;          ///< From the base line to the bottom of a line.
+    LONG tmInternalLeading;  ///< The part of the height that accents take.
+    LONG tmExternalLeading;  ///< Space between lines.
+    LONG tmAveCharWidth;     ///< Average width of a character.
+    LONG tmMaxCharWidth;     ///< Width of the widest character.
+    LONG tmWeight;           ///< 400 is normal, 700 is bold.
+    LONG tmOverhang;         ///< Width that emboldening or slanting adds.
+    LONG tmDigitizedAspectX; ///< Horizontal aspect of the device.
+    LONG tmDigitizedAspectY; ///< Vertical aspect of the device.
+    wchar_t tmFirstChar;     ///< The first character that the font has.
+    wchar_t tmLastChar;      ///< The last character that the font has.
+    wchar_t tmDefaultChar;   ///< What stands for a character that it has not.
+    wchar_t tmBreakChar;     ///< What parts words.
+    BYTE tmItalic;           ///< Not 0: italic.
+    BYTE tmUnderlined;       ///< Not 0: underlined.
+    BYTE tmStruckOut;        ///< Not 0: struck out.
+    BYTE tmPitchAndFamily;   ///< Pitch and family bits.
+    BYTE tmCharSet;          ///< Number of the character set.
 };
 
 static_assert(offsetof(TEXTMETRICW, tmFirstChar) == 44 && offsetof(TEXTMETRICW, tmItalic) == 60);
@@ -103,11 +108,11 @@ class KX_MFC_EXPORT CBrush : public CGdiObject
 public:
     /// Makes an object without a brush.
     CBrush();
-    /// Makes a solid brush.
+    /// Makes a solid brush of the colour @p c.
     explicit CBrush(COLORREF c);
 };
 
-/// A font. It has none on this platform: text is drawn with KxQtPainterWrapper::setFontIndirect().
+/// A font, which is none on this platform: KxQtPainterWrapper::setFontIndirect() sets that of a text.
 class KX_MFC_EXPORT CFont : public CGdiObject
 {
 public:
@@ -135,9 +140,9 @@ public:
 
 /// A device context: a thin object around a paint device.
 ///
-/// CWnd::GetDC() hands out the one of a window, which the window owns. To draw on a bitmap, select it into a
-/// context of your own. Drawing beyond FillRect() goes through the painter of the device that the HDC points
-/// to.
+/// CWnd::GetDC() hands out the one of a window, which the window owns and which has no device until
+/// _CreateDCforHwnd() makes one, unlike MFC. To draw on a bitmap, select it into a context of your own.
+/// Drawing beyond FillRect() goes through the painter of the device that the HDC points to.
 class KX_MFC_EXPORT CDC : public CObject
 {
 public:
@@ -154,7 +159,8 @@ public:
 
     /// Makes a bitmap the device, unless there is a device already: unlike MFC, the first bitmap stays and a
     /// second one is not selected.
-    /// @param bitmap the bitmap; null selects nothing. It must outlive the context, and keep its handle.
+    /// @param bitmap the bitmap; null, and one without a handle, select nothing. It must outlive the context,
+    /// and keep its handle.
     /// @return the bitmap that was selected before, which stays selected; null when there was none, or when
     /// the device is not that of a bitmap.
     CBitmap *SelectObject(CBitmap *bitmap);

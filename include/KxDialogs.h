@@ -1,5 +1,11 @@
 /// @file KxDialogs.h
 /// @brief Dialogs, the Qt dialog that hosts them, and dialog data exchange.
+///
+/// A ported dialog class derives from CDialog. The application builds its widget, best a QBaseDialog, binds
+/// it with CWnd::Attach(), registers each control with CWnd::SetDlgItem() and calls CDialog::DoModal(). The
+/// members and the controls are kept in step by the DDX_ functions, which the class calls from
+/// CWnd::DoDataExchange(). The file dialogs are in KxFileDialogs.h, which this header includes; message boxes
+/// are in KxApplication.h.
 #pragma once
 
 #include "KxFileDialogs.h"
@@ -8,9 +14,6 @@
 #include <QDialog>
 
 struct CDialogPrivate;
-
-/// @name Dialogs
-/// @{
 
 /// A dialog, bound to a Qt dialog that the application builds itself.
 ///
@@ -25,9 +28,11 @@ public:
 
     /// Makes an unbound dialog without a logical parent.
     CDialog();
+    /// Makes an unbound dialog.
     /// @param nIDTemplate ignored.
     /// @param pParent the logical parent; not owned.
     explicit CDialog(UINT nIDTemplate, CWnd *pParent = nullptr);
+    /// Makes an unbound dialog.
     /// @param lpszTemplateName ignored.
     /// @param pParent the logical parent; not owned.
     explicit CDialog(const wchar_t *lpszTemplateName, CWnd *pParent = nullptr);
@@ -35,6 +40,8 @@ public:
     using CWnd::Create;
     /// Prepares a modeless dialog: records the logical parent and calls OnInitDialog(). The application shows
     /// the window, unlike MFC.
+    /// @param lpszTemplateName ignored.
+    /// @param pParentWnd the logical parent; not owned, may be null.
     /// @return TRUE; unbound: FALSE.
     virtual BOOL Create(const wchar_t *lpszTemplateName, CWnd *pParentWnd = nullptr);
     /// The same for a template identifier.
@@ -50,7 +57,7 @@ public:
     virtual void OnOK();
     /// Rejects the QDialog, so that DoModal() gives IDCANCEL; nothing when bound to none.
     virtual void OnCancel();
-    /// @return TRUE.
+    /// Fixed result: TRUE. Nothing calls it.
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT *pResult);
 
     /// Accepts the QDialog and lets DoModal() give @p nResult; nothing when bound to none.
@@ -71,10 +78,11 @@ protected:
     CDialog(CDialogPrivate &d, CWnd *pParent);
 };
 
-/// A CDialog of the editor family.
+/// A CDialog whose editor commands have no effect.
 class KX_MFC_EXPORT CKdUiDialog : public CDialog
 {
 public:
+    /// Makes an unbound dialog.
     /// @param nIDTemplate ignored.
     /// @param pParent the logical parent; not owned.
     explicit CKdUiDialog(UINT nIDTemplate, CWnd *pParent = nullptr);
@@ -84,10 +92,11 @@ public:
     void SetDialogName(const wchar_t *lpszName); ///< Fixed result: nothing.
 };
 
-/// A CDialog of the editor family.
+/// A CKdUiDialog that ignores size messages. Resize the Qt dialog.
 class KX_MFC_EXPORT CKcUiDialog : public CKdUiDialog
 {
 public:
+    /// Makes an unbound dialog.
     /// @param nIDTemplate ignored.
     /// @param pParent the logical parent; not owned.
     explicit CKcUiDialog(UINT nIDTemplate, CWnd *pParent = nullptr);
@@ -100,12 +109,14 @@ public:
 class KX_MFC_EXPORT CKcUiTabChildDialog : public CKcUiDialog
 {
 public:
+    /// Makes an unbound page.
     /// @param nIDTemplate ignored.
     /// @param pParent the tabbed host; not owned.
     explicit CKcUiTabChildDialog(UINT nIDTemplate, CWnd *pParent = nullptr);
 
     /// Enables the host's control 1501 (its Apply button) when the page has changes to apply, and disables it
     /// otherwise, moving the focus from it to this page first.
+    /// @param bDirty whether the page has changes to apply.
     /// @return the result of CWnd::EnableWindow() on that control; 0 without a host.
     BOOL SetDirty(bool bDirty);
 };
@@ -117,6 +128,7 @@ class KX_MFC_EXPORT QBaseDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// Makes a hidden tool window.
     /// @param parent the Qt parent; null takes the main window (kdqt_velmoMainWnd()) when there is one.
     explicit QBaseDialog(QWidget *parent = nullptr);
 
@@ -141,16 +153,13 @@ protected:
 private:
     int m_nEndID = -1;
 };
-/// @}
 
-/// @name Dialog data exchange
-/// Every exchange is skipped, in both directions, when the exchange, its window or that window's handle is
-/// null, when the identifier is not registered, when the control is not bound, and when its widget is of
-/// another kind. Nothing ever reports a failure or shows a message, unlike MFC; applications that validate
-/// call CDataExchange::Fail().
-/// @{
-
-/// One run of data exchange.
+/// One run of data exchange, which CWnd::UpdateData() hands to CWnd::DoDataExchange().
+///
+/// Each DDX_ function takes the run and the identifier under which the control is registered. It is skipped,
+/// in both directions, when the run, its window or that window's handle is null, when the identifier is not
+/// registered, when the control is not bound, and when its widget is of another kind. Nothing ever reports a
+/// failure or shows a message, unlike MFC; applications that validate call Fail().
 class KX_MFC_EXPORT CDataExchange
 {
 public:
@@ -159,13 +168,15 @@ public:
     bool m_bFail = false;           ///< Set by Fail().
     CWnd *m_pDlgWnd;                ///< The window whose controls are exchanged; not owned.
 
+    /// Describes a run; nothing is exchanged yet.
     /// @param pDlgWnd the window whose controls are exchanged; not owned, may be null.
     /// @param bSaveAndValidate true: controls to members. false: members to controls.
     CDataExchange(CWnd *pDlgWnd, bool bSaveAndValidate);
 
     /// Makes CWnd::UpdateData() give FALSE. Returns normally: no exception, no message, no change of focus.
     void Fail();
-    /// @return the handle of control @p nIDC; null when the window is null or the identifier unknown.
+    /// @return the handle of control @p nIDC; null when the window is null or the identifier unknown. Nothing
+    /// is recorded, unlike MFC.
     HWND PrepareEditCtrl(int nIDC);
 };
 
@@ -195,9 +206,16 @@ KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, double &value);
 /// Exchanges the text itself, an empty one included.
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, CString &value);
 /// Exchanges the text of a buffer.
+/// @param pDX the run.
+/// @param nIDC the control's identifier.
+/// @param value the buffer, owned by the caller.
 /// @param nMaxLen size of @p value in characters; at most nMaxLen - 1 and a terminator are read into it.
 KX_MFC_EXPORT void DDX_Text(CDataExchange *pDX, int nIDC, wchar_t *value, int nMaxLen);
 /// @}
+
+/// @name Exchange with other controls
+/// Each function is skipped unless the control is a widget of the class that it names; see CDataExchange.
+/// @{
 
 /// Exchanges whether a checkable QAbstractButton is checked. There is no third state.
 KX_MFC_EXPORT void DDX_Check(CDataExchange *pDX, int nIDC, bool &value);
@@ -207,12 +225,14 @@ KX_MFC_EXPORT void DDX_Check(CDataExchange *pDX, int nIDC, int &value);
 ///
 /// The group is the first QButtonGroup that is a direct child of the QRadioButton's parent widget, and the
 /// value is the group's button ID, not a position as in MFC.
+/// @param pDX the run.
+/// @param nIDC the identifier of one of the group's buttons.
 /// @param value saved: -1 when no button is checked. Loaded: a value that is no button's ID changes nothing.
 KX_MFC_EXPORT void DDX_Radio(CDataExchange *pDX, int nIDC, int &value);
 /// Exchanges a QComboBox's current text.
 KX_MFC_EXPORT void DDX_CBString(CDataExchange *pDX, int nIDC, CString &value);
-/// Exchanges a QComboBox's current index, -1 when there is none. Loading an index that does not exist sets @p
-/// index to 0 and selects the first item.
+/// Exchanges a QComboBox's current index, -1 when there is none. Loading an index that does not exist sets
+/// @p index to 0 and selects the first item.
 KX_MFC_EXPORT void DDX_CBIndex(CDataExchange *pDX, int nIDC, int &index);
 /// Exchanges a QListWidget's current row by the rules of DDX_CBIndex().
 KX_MFC_EXPORT void DDX_LBIndex(CDataExchange *pDX, int nIDC, int &index);
@@ -223,7 +243,11 @@ KX_MFC_EXPORT void DDX_Slider(CDataExchange *pDX, int nIDC, int &value);
 /// Binds @p rControl to control @p nIDC, in both directions, with CWnd::SubclassDlgItem(); nothing when it
 /// has a handle.
 KX_MFC_EXPORT void DDX_Control(CDataExchange *pDX, int nIDC, CWnd &rControl);
+/// @}
 
+/// @name Validation
+/// Fixed results: these check nothing, and an exchange never fails by itself, unlike MFC.
+/// @{
 KX_MFC_EXPORT void DDV_MinMaxInt(CDataExchange *pDX, int value, int minVal, int maxVal); ///< Nothing.
 KX_MFC_EXPORT void DDV_MinMaxDouble(CDataExchange *pDX, double value, double minVal,
                                     double maxVal);                                    ///< Nothing.

@@ -69,9 +69,9 @@ public:
     /// @name Access
     /// What they return belongs to this object.
     /// @{
-    KxQtPainterWrapper *memPainter() const;   ///< @return the painter on the memory image; never null.
-    QImage *memImage() const;                 ///< @return the memory image; null before createImages().
-    unsigned char *memBits() const;           ///< @return the pixels of the memory image; null before it.
+    KxQtPainterWrapper *memPainter() const; ///< @return the painter on the memory image; never null.
+    QImage *memImage() const;               ///< @return the memory image; null when there is none.
+    unsigned char *memBits() const;         ///< @return the memory image's pixels; null when there are none.
     KxQtPainterWrapper *frontPainter() const; ///< @return the painter on the front image; never null.
     QImage *frontImage() const;               ///< @return the front image; null when there is none.
     unsigned char *backupBits() const;        ///< @return null.
@@ -96,8 +96,8 @@ private:
 /// paints that back in the end.
 ///
 /// The copy is painted over the image, within the painter's clip region: what became opaque where the copy is
-/// transparent stays. Make and destroy it while the painter does not draw, that is outside of beginDraw() and
-/// endDraw().
+/// transparent stays. Make and destroy it while the painter does not draw, that is outside of its
+/// KxQtPainterWrapper::beginDraw() and KxQtPainterWrapper::endDraw().
 class KX_MFC_EXPORT KxQtGrDCAutoSaver
 {
 public:

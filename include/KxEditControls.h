@@ -1,5 +1,5 @@
 /// @file KxEditControls.h
-/// @brief Edit and static controls.
+/// @brief Edit and static controls: CEdit, CRichEditCtrl and CStatic.
 ///
 /// In the control classes "unbound" also covers a widget of another class than the one named, and a null
 /// object: nothing changes, and the result is the failure value given. Members under "fixed results" look at
@@ -103,10 +103,10 @@ public:
     /// @return null: the former bitmap is not reported, unlike MFC.
     HBITMAP SetBitmap(HBITMAP hBitmap);
 
-    /// CWnd::SetWindowTextW().
+    /// Sets the text as CWnd::SetWindowTextW() does.
     void SetWindowTextW(const wchar_t *lpszString) override;
     using CWnd::GetWindowTextW;
-    /// CWnd::GetWindowTextW().
+    /// Reads the text as CWnd::GetWindowTextW() does.
     void GetWindowTextW(CString &rString) override;
     using CWnd::Create;
     /// Calls the virtual CWnd::Create() of this object for the window class "STATIC"; creates no widget,

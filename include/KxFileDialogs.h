@@ -1,5 +1,9 @@
 /// @file KxFileDialogs.h
 /// @brief The file dialogs, both on QFileDialog and neither a CDialog.
+///
+/// CFileDialog asks for one file and is set up by its constructor. KxQtFileDialog asks for several files to
+/// open, or for a name to save under, and is set up through an OPENFILENAMEW. Both take their Qt parent from
+/// a CWnd; the flags, hooks and templates of Win32 have no counterpart.
 #pragma once
 
 #include "KxString.h"
@@ -50,36 +54,36 @@ using LPOFNHOOKPROC = UINT_PTR (*)(HWND, UINT, WPARAM, LPARAM);
 /// the texts are the application's, are not written to, and count as empty when null. The others are ignored.
 struct OPENFILENAMEW
 {
-    DWORD lStructSize;
-    HWND hwndOwner;
-    HINSTANCE hInstance;
+    DWORD lStructSize;   ///< Ignored.
+    HWND hwndOwner;      ///< Ignored: the parent is that of the constructor.
+    HINSTANCE hInstance; ///< Ignored.
     /// Name filters in Qt's form, `Data (*.dat);;All (*)`, not parted by nulls as in Win32.
     const wchar_t *lpstrFilter;
-    wchar_t *lpstrCustomFilter;
-    DWORD nMaxCustFilter;
+    wchar_t *lpstrCustomFilter; ///< Ignored.
+    DWORD nMaxCustFilter;       ///< Ignored.
     /// The filter to begin with, from 1; 0 and a number past the last stand for the first. After an accepted
     /// run the filter that the user left selected, 0 when it is none of #lpstrFilter.
     DWORD nFilterIndex;
     /// The name to begin with. Unlike in Win32 it does not receive the chosen one.
     wchar_t *lpstrFile;
-    DWORD nMaxFile;
-    wchar_t *lpstrFileTitle;
-    DWORD nMaxFileTitle;
-    /// The directory to begin with, with `/` or `\`. A last part with a dot in it is taken for a file name
-    /// and dropped. Empty shows the roots of the file system.
+    DWORD nMaxFile;          ///< Ignored.
+    wchar_t *lpstrFileTitle; ///< Ignored.
+    DWORD nMaxFileTitle;     ///< Ignored.
+    /// The directory to begin with, with `/` or `\`. What follows the last of these is taken for a file name
+    /// when it has a dot in it, and dropped. Empty shows the roots of the file system.
     const wchar_t *lpstrInitialDir;
     /// The dialog's caption; empty gives Qt's.
     const wchar_t *lpstrTitle;
-    DWORD Flags;
-    WORD nFileOffset;
-    WORD nFileExtension;
-    const wchar_t *lpstrDefExt;
-    LPARAM lCustData;
-    LPOFNHOOKPROC lpfnHook;
-    const wchar_t *lpTemplateName;
-    void *pvReserved;
-    DWORD dwReserved;
-    DWORD FlagsEx;
+    DWORD Flags;                   ///< Ignored.
+    WORD nFileOffset;              ///< Ignored.
+    WORD nFileExtension;           ///< Ignored.
+    const wchar_t *lpstrDefExt;    ///< Ignored.
+    LPARAM lCustData;              ///< Ignored.
+    LPOFNHOOKPROC lpfnHook;        ///< Ignored.
+    const wchar_t *lpTemplateName; ///< Ignored.
+    void *pvReserved;              ///< Ignored.
+    DWORD dwReserved;              ///< Ignored.
+    DWORD FlagsEx;                 ///< Ignored.
 };
 #pragma pack(pop)
 
@@ -108,6 +112,7 @@ public:
 class KX_MFC_EXPORT CFileDialog
 {
 public:
+    /// Makes and sets up the Qt dialog, which stays hidden until DoModal().
     /// @param openDialog true: a name to open. false: a name to save under.
     /// @param defExt its last three characters are appended to a name without a dot; a dot before them is
     /// allowed. Null and empty append nothing.
@@ -129,7 +134,7 @@ public:
     virtual ~CFileDialog();
 
     /// @return the path selected in the Qt dialog, with `/`, accepted or not; while no name is given, that of
-    /// the directory shown.
+    /// the directory shown; empty once the Qt dialog was deleted with its parent.
     CString GetPathName() const;
     /// @return the empty text, unlike in MFC: take the name from GetPathName().
     CString GetFileName() const;
@@ -146,23 +151,25 @@ private:
 struct KxQFileDialogArgs
 {
     CWnd *parent = nullptr; ///< Not owned.
-    QString caption;
-    QString directory;
-    QString filter; ///< The filter text of the constructor.
+    QString caption;        ///< OPENFILENAMEW::lpstrTitle.
+    QString directory;      ///< OPENFILENAMEW::lpstrInitialDir, with `/` and without a file name.
+    QString filter;         ///< The filter text of the constructor.
 };
 
 /// What KxQtFileDialog sets on its QFileDialog.
 struct KxQFileDialgAttri
 {
+    /// Whether to open or to save.
     QFileDialog::AcceptMode acceptMode = QFileDialog::AcceptOpen;
     QString defaultSuffix;   ///< Not applied.
     QString initialFileName; ///< Not applied.
-    QString fileToSelect;
+    QString fileToSelect;    ///< OPENFILENAMEW::lpstrFile.
+    /// ExistingFiles to open, AnyFile to save.
     QFileDialog::FileMode fileMode = QFileDialog::AnyFile;
     QFileDialog::Options options; ///< Not applied.
-    QString nameFilterText;
-    QStringList nameFilters;
-    QString selectedNameFilter;
+    QString nameFilterText;       ///< OPENFILENAMEW::lpstrFilter.
+    QStringList nameFilters;      ///< Its filters, as the dialog shows them.
+    QString selectedNameFilter;   ///< The one to begin with.
 };
 
 /// A dialog for several files to open or for a name to save under, set up through OPENFILENAMEW.
@@ -171,6 +178,7 @@ struct KxQFileDialgAttri
 class KX_MFC_EXPORT KxQtFileDialog
 {
 public:
+    /// Keeps what each run begins with; the Qt dialog is made by DoModal().
     /// @param openDialog true: existing files to open. false: a name to save under.
     /// @param defExt kept and not applied.
     /// @param fileName kept and not applied: set OPENFILENAMEW::lpstrFile.
@@ -219,6 +227,7 @@ public:
 
     /// Lets the user choose a directory.
     /// @param parent Qt parent; null for none.
+    /// @param caption the dialog's caption; empty gives Qt's.
     /// @param directory the one to begin with.
     /// @param options ignored: directories only are shown.
     /// @return the directory's path; empty when the user cancelled.

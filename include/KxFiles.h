@@ -41,6 +41,9 @@ public:
     /// @param year the full year, for example 2024.
     /// @param month 1 for January.
     /// @param day 1 for the first.
+    /// @param hour hours since midnight.
+    /// @param minute minutes of the hour.
+    /// @param second seconds of the minute.
     /// @param dst positive: the values are in daylight saving time, 0: they are not, negative: the time zone
     /// decides.
     CTime(int year, int month, int day, int hour, int minute, int second, int dst = -1);
@@ -100,25 +103,26 @@ KX_MFC_EXPORT BOOL GetFileStatus(QFileInfo info, CFileStatus &status);
 class KX_MFC_EXPORT CFile : public CObject
 {
 public:
-    /// Flags of Open(). Only modeWrite, modeReadWrite and typeText have an effect.
+    /// Flags of Open(). Only modeWrite, modeReadWrite and typeText have an effect; the others, sharing modes
+    /// among them, are ignored.
     enum OpenFlags : unsigned {
-        modeRead = 0x0000,
-        modeWrite = 0x0001,     ///< Creates or empties the file, whether or not modeCreate is set.
-        modeReadWrite = 0x0002, ///< Creates the file where needed and never empties it.
-        shareCompat = 0x0000,
-        shareExclusive = 0x0010,
-        shareDenyWrite = 0x0020,
-        shareDenyRead = 0x0030,
-        shareDenyNone = 0x0040,
-        modeNoInherit = 0x0080,
-        modeCreate = 0x1000,
-        modeNoTruncate = 0x2000,
-        typeText = 0x4000, ///< Reading drops carriage returns. Line ends are written unchanged.
-        typeBinary = 0x8000
+        modeRead = 0x0000,       ///< Opens a file that exists.
+        modeWrite = 0x0001,      ///< Creates or empties the file, whether or not modeCreate is set.
+        modeReadWrite = 0x0002,  ///< Creates the file where needed and never empties it.
+        shareCompat = 0x0000,    ///< Ignored.
+        shareExclusive = 0x0010, ///< Ignored.
+        shareDenyWrite = 0x0020, ///< Ignored.
+        shareDenyRead = 0x0030,  ///< Ignored.
+        shareDenyNone = 0x0040,  ///< Ignored.
+        modeNoInherit = 0x0080,  ///< Ignored.
+        modeCreate = 0x1000,     ///< Ignored: modeWrite and modeReadWrite create without it.
+        modeNoTruncate = 0x2000, ///< Ignored: modeWrite empties and modeReadWrite keeps the file.
+        typeText = 0x4000,       ///< Reading drops carriage returns. Line ends are written unchanged.
+        typeBinary = 0x8000      ///< The default: bytes as they are.
     };
     /// Origins of Seek(), which does not apply them.
     enum SeekPosition : unsigned { begin = 0, current = 1, end = 2 };
-    /// Values of CFileStatus::m_attribute.
+    /// Values of CFileStatus::m_attribute: readable only, hidden, or neither.
     enum Attribute : BYTE { normal = 0, readOnly = 1, hidden = 2 };
 
     /// The open C stream that was given to CFile(void *), or the file descriptor after Open(); all bits set
@@ -133,7 +137,7 @@ public:
     /// GetStatus() fails, since a stream has no name.
     /// @param hFile a `FILE *`, owned by the caller. With null or INVALID_HANDLE_VALUE there is no file.
     explicit CFile(void *hFile);
-    /// Opens @p name as CFile::Open() does. Whether it succeeded shows in #m_hFile.
+    /// Opens @p name with @p flags as CFile::Open() does. Whether it succeeded shows in #m_hFile.
     CFile(const wchar_t *name, unsigned flags);
     /// Closes the file as CFile::Close() does, not as an override would.
     ~CFile() override;
@@ -171,6 +175,7 @@ public:
     ///
     /// Unlike in MFC this has a result. Small pieces are collected: whether they could be written shows in a
     /// later call, or in GetLength(), which gives 0 when it could not write them.
+    /// @param buf the data; owned by the caller.
     /// @param count bytes at @p buf.
     /// @return the bytes taken; -1 as an unsigned number on failure, also when the file is closed, was opened
     /// for reading only, or @p buf is null and @p count is not 0.
@@ -192,7 +197,7 @@ public:
     /// Fills @p status for the file @p name as it is now.
     /// @return as GetFileStatus(); FALSE with no effect when @p name is null.
     static BOOL GetStatus(const wchar_t *name, CFileStatus &status);
-    /// Removes a file with DeleteFileW().
+    /// Removes the file @p name with DeleteFileW().
     /// @return nonzero on success.
     static BOOL Remove(const wchar_t *name);
 
@@ -206,8 +211,8 @@ private:
 /// A text file of lines, on a QTextStream over the file.
 ///
 /// Text is encoded by Qt's codec for the locale; when reading, a byte order mark selects a Unicode encoding.
-/// The stream is attached by Open() alone. It reads and writes ahead: do not mix its members with Read(),
-/// Write() and Seek() without a Flush() between them.
+/// The stream is attached by Open() alone. It reads and writes ahead, so do not mix its members with Read(),
+/// Write() and Seek(): after ReadString() neither Flush() nor Seek() brings the stream back, Open() does.
 class KX_MFC_EXPORT CStdioFile : public CFile
 {
 public:
@@ -225,7 +230,7 @@ public:
     BOOL Open(const wchar_t *name, unsigned flags, CFileException *error = nullptr) override;
     /// Writes the text that WriteString() collected, and closes the file.
     void Close() override;
-    /// Writes the text that WriteString() collected.
+    /// Writes the text that WriteString() collected, and not what Write() did.
     void Flush() override;
 
     /// Writes @p text as it is; no line end is added.
@@ -274,15 +279,15 @@ public:
 protected:
     /// @name The block
     /// @{
-    unsigned char *m_lpBuffer;
-    unsigned m_nBufferSize; ///< In bytes. Keeps its value when the block is detached.
+    unsigned char *m_lpBuffer; ///< The bytes; null when there is no block.
+    unsigned m_nBufferSize;    ///< In bytes. Keeps its value when the block is detached.
     /// @}
 };
 
 /// What an HGLOBAL points to: a block of memory. Both are allocated with malloc().
 struct KxGlobalMemory
 {
-    void *block;
+    void *block;        ///< The bytes, owned; null when there are none.
     std::uint64_t size; ///< Bytes of the block.
     std::uint64_t zero; ///< 0.
 };

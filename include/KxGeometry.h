@@ -15,13 +15,15 @@ struct KX_MFC_EXPORT CSize : SIZE
 {
     /// 0 by 0.
     CSize()
-        : SIZE{0, 0}
+        : SIZE()
     {
     }
-    /// @param initCX width, @param initCY height.
+    /// A size of @p initCX by @p initCY.
     CSize(int initCX, int initCY)
-        : SIZE{initCX, initCY}
+        : SIZE()
     {
+        cx = initCX;
+        cy = initCY;
     }
     /// A copy of @p size.
     CSize(const SIZE &size)
@@ -30,7 +32,7 @@ struct KX_MFC_EXPORT CSize : SIZE
     }
     /// The coordinates of @p point as width and height.
     explicit CSize(const POINT &point)
-        : SIZE{point.x, point.y}
+        : CSize(point.x, point.y)
     {
     }
     /// @return this size's record, for functions that take a pointer.
@@ -58,9 +60,9 @@ struct KX_MFC_EXPORT CSize : SIZE
     CPoint operator+(const POINT &point) const;
     /// @return @p point mirrored at the half of this size: this size less the point.
     CPoint operator-(const POINT &point) const;
-    /// @return @p rect moved by this size.
+    /// @return @p rect, which must not be null, moved by this size.
     CRect operator+(const RECT *rect) const;
-    /// @return @p rect moved back by this size.
+    /// @return @p rect, which must not be null, moved back by this size.
     CRect operator-(const RECT *rect) const;
 };
 
@@ -69,13 +71,15 @@ struct KX_MFC_EXPORT CPoint : POINT
 {
     /// The origin.
     CPoint()
-        : POINT{0, 0}
+        : POINT()
     {
     }
-    /// @param initX column, @param initY row.
+    /// The point in column @p initX and row @p initY.
     CPoint(int initX, int initY)
-        : POINT{initX, initY}
+        : POINT()
     {
+        x = initX;
+        y = initY;
     }
     /// A copy of @p point.
     CPoint(const POINT &point)
@@ -84,19 +88,19 @@ struct KX_MFC_EXPORT CPoint : POINT
     }
     /// The extents of @p size as coordinates.
     explicit CPoint(const SIZE &size)
-        : POINT{size.cx, size.cy}
+        : CPoint(size.cx, size.cy)
     {
     }
-    /// The point that a mouse message packs into its parameter: x in the low 16 bits, y in the next ones, both
-    /// signed.
+    /// The point that a mouse message packs into its parameter: x in the low 16 bits, y in the next ones,
+    /// both signed.
     explicit CPoint(LPARAM packed)
-        : POINT{SHORT(packed & 0xFFFF), SHORT(packed >> 16 & 0xFFFF)}
+        : CPoint(SHORT(packed & 0xFFFF), SHORT(packed >> 16 & 0xFFFF))
     {
     }
     /// @return this point's record, for functions that take a pointer.
     operator POINT *() { return this; }
 
-    /// Moves the point.
+    /// Moves the point by @p xOffset columns and @p yOffset rows.
     void Offset(int xOffset, int yOffset) { *this += CSize(xOffset, yOffset); }
     /// Moves the point by the coordinates of @p point.
     void Offset(const POINT &point) { *this += point; }
@@ -128,9 +132,9 @@ struct KX_MFC_EXPORT CPoint : POINT
     CSize operator-(const POINT &point) const { return {x - point.x, y - point.y}; }
     /// @return the point mirrored at the origin.
     CPoint operator-() const { return {-x, -y}; }
-    /// @return @p rect moved by this point's coordinates.
+    /// @return @p rect, which must not be null, moved by this point's coordinates.
     CRect operator+(const RECT *rect) const;
-    /// @return @p rect moved back by this point's coordinates.
+    /// @return @p rect, which must not be null, moved back by this point's coordinates.
     CRect operator-(const RECT *rect) const;
 };
 
@@ -146,10 +150,14 @@ struct KX_MFC_EXPORT CRect : RECT
         : RECT()
     {
     }
-    /// The four sides.
+    /// The rectangle with left side @p l, top @p t, right side @p r and bottom @p b.
     CRect(int l, int t, int r, int b)
-        : RECT{l, t, r, b}
+        : RECT()
     {
+        left = l;
+        top = t;
+        right = r;
+        bottom = b;
     }
     /// A copy of @p rect.
     CRect(const RECT &rect)
@@ -163,12 +171,12 @@ struct KX_MFC_EXPORT CRect : RECT
     }
     /// The rectangle of @p size at @p point.
     CRect(const POINT &point, const SIZE &size)
-        : RECT{point.x, point.y, point.x + size.cx, point.y + size.cy}
+        : CRect(point.x, point.y, point.x + size.cx, point.y + size.cy)
     {
     }
     /// The rectangle between two corners.
     CRect(const POINT &topLeft, const POINT &bottomRight)
-        : RECT{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y}
+        : CRect(topLeft.x, topLeft.y, bottomRight.x, bottomRight.y)
     {
     }
     /// @}
@@ -229,7 +237,7 @@ struct KX_MFC_EXPORT CRect : RECT
     void DeflateRect(const RECT *rect) { DeflateRect(rect->left, rect->top, rect->right, rect->bottom); }
     /// Moves each side inwards by its own amount.
     void DeflateRect(int l, int t, int r, int b) { InflateRect(-l, -t, -r, -b); }
-    /// Moves the rectangle.
+    /// Moves the rectangle by @p x columns and @p y rows.
     void OffsetRect(int x, int y);
     /// Moves the rectangle by @p size.
     void OffsetRect(const SIZE &size) { OffsetRect(size.cx, size.cy); }
@@ -247,11 +255,11 @@ struct KX_MFC_EXPORT CRect : RECT
     void NormalizeRect();
     /// Swaps the left and right sides.
     void SwapLeftRight();
-    /// Becomes what both rectangles have in common; all sides 0 when that is nothing.
-    /// @param rect1 first rectangle, @param rect2 second one; null makes the result empty.
+    /// Becomes what @p rect1 and @p rect2 have in common; all sides 0 when that is nothing. A null one makes
+    /// the result empty. Either may be this rectangle.
     /// @return whether they have something in common.
     BOOL IntersectRect(const RECT *rect1, const RECT *rect2);
-    /// Becomes the smallest rectangle that holds both; an empty or null one does not count.
+    /// Becomes the smallest rectangle that holds @p rect1 and @p rect2; an empty or null one does not count.
     /// @return whether the result is not empty.
     BOOL UnionRect(const RECT *rect1, const RECT *rect2);
     /// Becomes @p rect1 without what @p rect2 covers, if that leaves a rectangle: @p rect2 has to reach
@@ -262,7 +270,7 @@ struct KX_MFC_EXPORT CRect : RECT
 
     /// @name Operators
     /// `+` and `-` with a point or size move; with a rectangle they move each side outwards or inwards.
-    /// `&` and `|` are IntersectRect() and UnionRect().
+    /// `&` and `|` are IntersectRect() and UnionRect(). A rectangle given by its address must not be null.
     /// @{
     bool operator==(const RECT &rect) const; ///< @return whether all sides are equal.
     bool operator!=(const RECT &rect) const { return !(*this == rect); } ///< @return whether a side differs.

@@ -1,5 +1,8 @@
 /// @file KxListBoxes.h
 /// @brief CComboBox and CListBox, string lists over QComboBox and QListWidget.
+///
+/// The two look alike and differ in much: CComboBox adds no text twice and blocks signals, CListBox does
+/// neither.
 #pragma once
 
 #include "KxWindows.h"
@@ -34,6 +37,7 @@ public:
     /// Finds the first item whose whole text equals @p lpszString with case. Prefixes do not match, unlike
     /// MFC.
     /// @param nStartAfter ignored; the search begins at the first item.
+    /// @param lpszString the text to look for.
     /// @return the index; CB_ERR when there is none.
     int FindString(int nStartAfter, const wchar_t *lpszString) const;
     /// Same as FindString(), thus with case, unlike MFC.
@@ -110,7 +114,7 @@ public:
     void GetWindowTextW(CString &rString) override;
     /// Reads the current text into a buffer as CWnd::GetWindowTextW(wchar_t *, int) does.
     int GetWindowTextW(wchar_t *lpszBuffer, int nMaxCount) override;
-    /// Fixed result: 1. Creates nothing, unlike MFC.
+    /// Fixed result: 1; unbound: 0. Creates nothing, unlike MFC.
     virtual BOOL Create(unsigned dwStyle, const RECT &rect, CWnd *pParentWnd, unsigned nID);
     /// @}
 
@@ -162,6 +166,7 @@ public:
     /// Finds the first item whose whole text equals @p lpszString without regard to case. Prefixes do not
     /// match, unlike MFC.
     /// @param nStartAfter ignored; the search begins at the first item.
+    /// @param lpszString the text to look for.
     /// @return the row; LB_ERR when there is none.
     int FindString(int nStartAfter, const wchar_t *lpszString) const;
     /// Finds the same item as FindString() but gives it only when its row is greater than @p nStartAfter.
@@ -192,6 +197,7 @@ public:
     /// Makes each item current in turn whose text, without white space around it, equals that of @p lpszItem
     /// with case. The last match stays current.
     /// @param nStartAfter ignored; every item is looked at.
+    /// @param lpszItem the text to look for.
     /// @return 0, whether or not an item matched, unlike MFC.
     int SelectString(int nStartAfter, const wchar_t *lpszItem);
     /// Selects an item, or takes it out of the selection, as the list's selection mode allows.
@@ -200,7 +206,7 @@ public:
 
     /// Appends an item without data. White space around the text is removed, and each run of it inside
     /// becomes one blank.
-    /// @return the new item's row.
+    /// @return the last row, which is the new item's unless the list is sorted; unbound: 0.
     int AddString(const wchar_t *lpszItem);
     /// Inserts an item without data and with its text unchanged, unlike AddString().
     /// @param nIndex the new item's place; below 0 counts as the first, past the end appends. -1 does not

@@ -42,6 +42,7 @@ class KX_MFC_EXPORT CListCtrl : public CWnd
 public:
     /// Makes an unbound list control without a logical parent.
     CListCtrl();
+    /// Leaves the items and their data alone.
     ~CListCtrl() override;
 
     /// @name Items
@@ -88,6 +89,8 @@ public:
     BOOL DeleteAllItems();
 
     /// Puts a new text into a table's cell. The cell is replaced, so that its data is lost, unlike MFC.
+    /// @param nItem the row, 0-based.
+    /// @param nSubItem the column, 0-based.
     /// @param text null counts as the empty text.
     /// @return TRUE for a table; else FALSE.
     BOOL SetItemText(int nItem, int nSubItem, const wchar_t *text);
@@ -156,13 +159,16 @@ public:
 
     /// Inserts a column with a heading into a table. Only the text of @p col is used.
     /// @param nCol the new column, 0-based; past the end it is refused.
+    /// @param col pszText is the heading, null the empty one.
     /// @return @p nCol, and else @p nCol; -1 when it is negative or @p col is null.
     int InsertColumn(int nCol, const LVCOLUMNW *col);
     /// Gives a column of a table or a standard view its heading. A column that has a heading is renamed;
     /// otherwise a new column is inserted.
     /// @param nCol the column, 0-based; past the end it is refused.
     /// @param heading null counts as the empty text.
-    /// @param nFormat ignored, as are @p nWidth and @p nSubItem.
+    /// @param nFormat ignored.
+    /// @param nWidth ignored.
+    /// @param nSubItem ignored.
     /// @return @p nCol, also when it is negative and nothing happens, and else; -1 for a view whose model is
     /// no QStandardItemModel.
     int InsertColumn(int nCol, const wchar_t *heading, int nFormat = LVCFMT_LEFT, int nWidth = -1,
@@ -208,6 +214,7 @@ class KX_MFC_EXPORT CHeaderCtrl : public CWnd
 public:
     /// Makes an unbound header control without a logical parent.
     CHeaderCtrl();
+    /// Leaves the headings alone, and frees the text that GetItem() gave last.
     ~CHeaderCtrl() override;
 
     /// @return the number of columns of the header's model, whatever it is; 0 without one.

@@ -1,15 +1,13 @@
 /// @file KxListControlTypes.h
 /// @brief Records and constants of the list control and of its header control.
+///
+/// The records are in the published 64-bit layouts. A field that the controls neither read nor write is said
+/// to be not used; the constants are those that ported code names.
 #pragma once
 
 #include "KxWinTypes.h"
 
 #include <QList>
-
-/// @name Records
-/// In the published 64-bit layouts. The descriptions name the fields that the controls use; every other one
-/// is neither read nor written.
-/// @{
 
 /// An item or sub-item of a list control.
 struct LVITEMW
@@ -73,7 +71,6 @@ struct LIST_POSITION
     int m_nRow;                ///< The row that the next call gives.
     QList<int> m_listReturned; ///< The rows given so far.
 };
-/// @}
 
 static_assert(offsetof(LVITEMW, iSubItem) == 8 && offsetof(LVITEMW, pszText) == 24);
 static_assert(offsetof(LVITEMW, cchTextMax) == 32 && offsetof(LVITEMW, lParam) == 40);
@@ -91,40 +88,42 @@ static_assert(sizeof(LIST_POSITION) == 16);
 using PFNLVCOMPARE = int (*)(LPARAM, LPARAM, LPARAM);
 
 /// @name Fields of LVITEMW
+/// CListCtrl::GetItem() alone looks at LVITEMW::mask, and there at LVIF_PARAM.
 /// @{
-constexpr UINT LVIF_TEXT = 0x0001;
-constexpr UINT LVIF_IMAGE = 0x0002;
-constexpr UINT LVIF_PARAM = 0x0004;
-constexpr UINT LVIF_STATE = 0x0008;
-constexpr UINT LVIF_INDENT = 0x0010;
+constexpr UINT LVIF_TEXT = 0x0001;   ///< LVITEMW::pszText.
+constexpr UINT LVIF_IMAGE = 0x0002;  ///< LVITEMW::iImage.
+constexpr UINT LVIF_PARAM = 0x0004;  ///< LVITEMW::lParam.
+constexpr UINT LVIF_STATE = 0x0008;  ///< LVITEMW::state.
+constexpr UINT LVIF_INDENT = 0x0010; ///< LVITEMW::iIndent.
 /// @}
 
 /// @name Item states
 /// CListCtrl takes bit LVIS_FOCUSED for selected, when it sets and when it reports, and looks at no other.
 /// @{
-constexpr UINT LVIS_FOCUSED = 0x0001;
-constexpr UINT LVIS_SELECTED = 0x0002;
-constexpr UINT LVIS_CUT = 0x0004;
-constexpr UINT LVIS_DROPHILITED = 0x0008;
-constexpr UINT LVIS_OVERLAYMASK = 0x0F00;
-constexpr UINT LVIS_STATEIMAGEMASK = 0xF000;
+constexpr UINT LVIS_FOCUSED = 0x0001;        ///< Selected, unlike Win32.
+constexpr UINT LVIS_SELECTED = 0x0002;       ///< Ignored.
+constexpr UINT LVIS_CUT = 0x0004;            ///< Ignored.
+constexpr UINT LVIS_DROPHILITED = 0x0008;    ///< Ignored.
+constexpr UINT LVIS_OVERLAYMASK = 0x0F00;    ///< Ignored.
+constexpr UINT LVIS_STATEIMAGEMASK = 0xF000; ///< Ignored.
 /// @}
 
 /// @name Flags of CListCtrl::GetNextItem()
 /// Only LVNI_FOCUSED and LVNI_SELECTED, each alone, find anything.
 /// @{
-constexpr int LVNI_ALL = 0x0000;
-constexpr int LVNI_FOCUSED = 0x0001;
-constexpr int LVNI_SELECTED = 0x0002;
-constexpr int LVNI_CUT = 0x0004;
-constexpr int LVNI_DROPHILITED = 0x0008;
-constexpr int LVNI_ABOVE = 0x0100;
-constexpr int LVNI_BELOW = 0x0200;
-constexpr int LVNI_TOLEFT = 0x0400;
-constexpr int LVNI_TORIGHT = 0x0800;
+constexpr int LVNI_ALL = 0x0000;         ///< Finds nothing.
+constexpr int LVNI_FOCUSED = 0x0001;     ///< The current row.
+constexpr int LVNI_SELECTED = 0x0002;    ///< The current row, too.
+constexpr int LVNI_CUT = 0x0004;         ///< Finds nothing.
+constexpr int LVNI_DROPHILITED = 0x0008; ///< Finds nothing.
+constexpr int LVNI_ABOVE = 0x0100;       ///< Finds nothing.
+constexpr int LVNI_BELOW = 0x0200;       ///< Finds nothing.
+constexpr int LVNI_TOLEFT = 0x0400;      ///< Finds nothing.
+constexpr int LVNI_TORIGHT = 0x0800;     ///< Finds nothing.
 /// @}
 
 /// @name Fields and formats of LVCOLUMNW
+/// All are ignored: CListCtrl::InsertColumn() uses the heading alone, whatever LVCOLUMNW::mask says.
 /// @{
 constexpr UINT LVCF_FMT = 0x0001;
 constexpr UINT LVCF_WIDTH = 0x0002;
@@ -139,18 +138,20 @@ constexpr int LVCFMT_JUSTIFYMASK = 0x0003;
 /// @}
 
 /// @name Fields of HDITEMW
+/// CHeaderCtrl looks at none of them.
 /// @{
-constexpr UINT HDI_WIDTH = 0x0001;
-constexpr UINT HDI_HEIGHT = HDI_WIDTH;
-constexpr UINT HDI_TEXT = 0x0002;
-constexpr UINT HDI_FORMAT = 0x0004;
-constexpr UINT HDI_LPARAM = 0x0008;
-constexpr UINT HDI_BITMAP = 0x0010;
-constexpr UINT HDI_IMAGE = 0x0020;
-constexpr UINT HDI_ORDER = 0x0080;
+constexpr UINT HDI_WIDTH = 0x0001;     ///< HDITEMW::cxy.
+constexpr UINT HDI_HEIGHT = HDI_WIDTH; ///< HDITEMW::cxy.
+constexpr UINT HDI_TEXT = 0x0002;      ///< HDITEMW::pszText; what CHeaderCtrl::GetItem() reports.
+constexpr UINT HDI_FORMAT = 0x0004;    ///< HDITEMW::fmt.
+constexpr UINT HDI_LPARAM = 0x0008;    ///< HDITEMW::lParam.
+constexpr UINT HDI_BITMAP = 0x0010;    ///< HDITEMW::hbm.
+constexpr UINT HDI_IMAGE = 0x0020;     ///< HDITEMW::iImage.
+constexpr UINT HDI_ORDER = 0x0080;     ///< HDITEMW::iOrder.
 /// @}
 
 /// @name Arguments of operations with a fixed result
+/// All are ignored, as every argument of such an operation is.
 /// @{
 constexpr int LVSCW_AUTOSIZE = -1;
 constexpr int LVSCW_AUTOSIZE_USEHEADER = -2;

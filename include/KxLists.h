@@ -23,9 +23,9 @@ KX_MFC_EXPORT void ConstructElement(CString *element);
 KX_MFC_EXPORT void DestructElement(CString *element);
 /// Makes @p count empty strings in the storage at @p elements.
 KX_MFC_EXPORT void _ConstructElements(CString *elements, INT_PTR count);
-/// Destroys @p count strings and leaves their storage alone.
+/// Destroys @p count strings from @p elements on and leaves their storage alone.
 KX_MFC_EXPORT void _DestructElements(CString *elements, INT_PTR count);
-/// Assigns @p count strings, the first one first, to strings that exist.
+/// Assigns @p count strings from @p src on, the first one first, to strings that exist from @p dst on.
 KX_MFC_EXPORT void _CopyElements(CString *dst, const CString *src, INT_PTR count);
 /// @}
 
@@ -128,7 +128,8 @@ public:
     /// @}
 
     /// @name Changes
-    /// A null text counts as the empty text. A CString that is passed in may be one of the list.
+    /// They take a string as `value`. A null text counts as the empty text. A CString that is passed in may
+    /// be one of the list.
     /// @{
 
     /// Assigns the string at @p position, which must not be null.

@@ -1,5 +1,8 @@
 /// @file KxMFCWrapper.h
 /// @brief Includes every public header of the library.
+///
+/// For sources that are new. Ported sources keep the header names that they have, such as afxwin.h, which
+/// stand in a folder of their own and include these headers.
 #pragma once
 
 #include "KxApplication.h"

@@ -49,15 +49,21 @@ public:
     /// @name Looking up
     /// @{
 
+    /// Finds a value.
+    /// @param key the key.
     /// @param value receives the value of @p key; untouched when there is none.
     /// @return true when @p key was found.
     bool Lookup(const wchar_t *key, void *&value) const;
+    /// Finds the stored key.
+    /// @param key the key.
     /// @param storedKey receives the map's own copy of @p key, valid until the key is removed; untouched when
     /// there is none.
     /// @return true when @p key was found.
     bool LookupKey(const wchar_t *key, const wchar_t *&storedKey) const;
     /// @return the hash of @p key, from which its bucket follows; 0 for a null key.
     UINT HashKey(const wchar_t *key) const;
+    /// Finds an association.
+    /// @param key the key.
     /// @param bucket receives the number of the bucket where @p key belongs.
     /// @param hash untouched.
     /// @return the association of @p key, owned by the map; null when there is none.
@@ -104,7 +110,8 @@ public:
     /// @return a new association, counted but in no bucket, whose key is empty and whose value is null; owned
     /// by the map.
     CAssoc *NewAssoc();
-    /// Takes back an association that is in no bucket. The last one frees all memory, as RemoveAll() does.
+    /// Takes back an association that is in no bucket; null does nothing. The last one frees all memory, as
+    /// RemoveAll() does.
     void FreeAssoc(CAssoc *association);
     /// @}
 
@@ -134,14 +141,14 @@ public:
     /// A key with its value. None is ever made.
     struct CPair
     {
-        CString key;
-        CString value;
+        CString key;   ///< The key.
+        CString value; ///< The value.
     };
     /// An association. None is ever made.
     struct CAssoc : CPair
     {
-        CAssoc *pNext;
-        UINT nHashValue;
+        CAssoc *pNext;   ///< The next one.
+        UINT nHashValue; ///< The hash of the key.
     };
 
     /// @name No counterpart on this platform
@@ -151,6 +158,7 @@ public:
     explicit CMapStringToString(INT_PTR nBlockSize = 10);
     CMapStringToString(const CMapStringToString &) = delete;
     CMapStringToString &operator=(const CMapStringToString &) = delete;
+    /// Does nothing.
     ~CMapStringToString();
 
     /// @return 0.

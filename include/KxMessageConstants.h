@@ -8,6 +8,8 @@
 #include "KxWinTypes.h"
 
 /// @name Window messages
+/// SendMessageW() and PostMessageW() bring them to the widget as a QKxMsgEvent. The library itself sends
+/// none, and it turns no event of a widget into one.
 /// @{
 constexpr UINT WM_NULL = 0x0000;
 constexpr UINT WM_CREATE = 0x0001;
@@ -129,6 +131,7 @@ constexpr UINT WM_APP = 0x8000;
 /// @}
 
 /// @name Button notifications
+/// No button sends any: connect the signals of the QAbstractButton.
 /// @{
 constexpr UINT BN_CLICKED = 0x0;
 constexpr UINT BN_PAINT = 0x1;
@@ -142,6 +145,7 @@ constexpr UINT BN_KILLFOCUS = 0x7;
 /// @}
 
 /// @name Edit control notifications
+/// No edit control sends any: connect the signals of the QLineEdit or QTextEdit.
 /// @{
 constexpr UINT EN_SETFOCUS = 0x0100;
 constexpr UINT EN_KILLFOCUS = 0x0200;
@@ -154,6 +158,7 @@ constexpr UINT EN_VSCROLL = 0x0602;
 /// @}
 
 /// @name Combo box notifications
+/// No combo box sends any: connect the signals of the QComboBox.
 /// @{
 constexpr UINT CBN_SELCHANGE = 0x1;
 constexpr UINT CBN_DBLCLK = 0x2;
@@ -168,6 +173,7 @@ constexpr UINT CBN_SELENDCANCEL = 0xA;
 /// @}
 
 /// @name List box notifications
+/// No list box sends any: connect the signals of the QListWidget.
 /// @{
 constexpr UINT LBN_SELCHANGE = 0x1;
 constexpr UINT LBN_DBLCLK = 0x2;
@@ -177,6 +183,7 @@ constexpr UINT LBN_KILLFOCUS = 0x5;
 /// @}
 
 /// @name Static control notifications
+/// No label sends any.
 /// @{
 constexpr UINT STN_CLICKED = 0x0;
 constexpr UINT STN_DBLCLK = 0x1;
@@ -185,6 +192,8 @@ constexpr UINT STN_DISABLE = 0x3;
 /// @}
 
 /// @name Button messages
+/// Not among those that SendMessageW() answers: the widget gets a QKxMsgEvent and the result is 0. Call the
+/// members of CButton.
 /// @{
 constexpr UINT BM_GETSTATE = 0x00F2;
 constexpr UINT BM_SETSTATE = 0x00F3;
@@ -194,6 +203,8 @@ constexpr UINT BM_GETIMAGE = 0x00F6;
 /// @}
 
 /// @name Edit control messages
+/// Not among those that SendMessageW() answers: the widget gets a QKxMsgEvent and the result is 0. Call the
+/// members of CEdit.
 /// @{
 constexpr UINT EM_GETSEL = 0x00B0;
 constexpr UINT EM_SETSEL = 0x00B1;
@@ -224,6 +235,8 @@ constexpr UINT EM_GETLIMITTEXT = 0x00D5;
 /// @}
 
 /// @name Combo box messages
+/// Not among those that SendMessageW() answers: the widget gets a QKxMsgEvent and the result is 0. Call the
+/// members of CComboBox.
 /// @{
 constexpr UINT CB_GETEDITSEL = 0x0140;
 constexpr UINT CB_LIMITTEXT = 0x0141;
@@ -248,6 +261,8 @@ constexpr UINT CB_FINDSTRINGEXACT = 0x0158;
 /// @}
 
 /// @name List box messages
+/// Not among those that SendMessageW() answers: the widget gets a QKxMsgEvent and the result is 0. Call the
+/// members of CListBox.
 /// @{
 constexpr UINT LB_ADDSTRING = 0x0180;
 constexpr UINT LB_INSERTSTRING = 0x0181;
@@ -271,6 +286,7 @@ constexpr UINT LB_FINDSTRINGEXACT = 0x01A2;
 /// @}
 
 /// @name Scroll bar codes
+/// Which bar, and what WM_HSCROLL and WM_VSCROLL tell. No function reads them and no scroll bar sends any.
 /// @{
 constexpr int SB_HORZ = 0x0;
 constexpr int SB_VERT = 0x1;
@@ -294,6 +310,7 @@ constexpr int SB_ENDSCROLL = 0x8;
 /// @}
 
 /// @name Track bar codes
+/// What WM_HSCROLL and WM_VSCROLL of a slider tell. No slider sends any.
 /// @{
 constexpr int TB_LINEUP = 0x0;
 constexpr int TB_LINEDOWN = 0x1;
@@ -307,6 +324,7 @@ constexpr int TB_ENDTRACK = 0x8;
 /// @}
 
 /// @name Keys and buttons held during a mouse message
+/// Flags of the mouse messages, which the library never sends.
 /// @{
 constexpr UINT MK_LBUTTON = 0x0001;
 constexpr UINT MK_RBUTTON = 0x0002;
@@ -318,6 +336,7 @@ constexpr UINT MK_XBUTTON2 = 0x0040;
 /// @}
 
 /// @name Kinds of WM_SIZE
+/// The library never sends that message.
 /// @{
 constexpr UINT SIZE_RESTORED = 0x0;
 constexpr UINT SIZE_MINIMIZED = 0x1;
@@ -327,6 +346,7 @@ constexpr UINT SIZE_MAXHIDE = 0x4;
 /// @}
 
 /// @name Kinds of WM_ACTIVATE
+/// The library never sends that message.
 /// @{
 constexpr UINT WA_INACTIVE = 0x0;
 constexpr UINT WA_ACTIVE = 0x1;
@@ -334,6 +354,7 @@ constexpr UINT WA_CLICKACTIVE = 0x2;
 /// @}
 
 /// @name Common control notifications
+/// Codes of NMHDR::code: negative numbers as unsigned ones. No control sends any.
 /// @{
 constexpr UINT NM_OUTOFMEMORY = 0xFFFFFFFF;
 constexpr UINT NM_CLICK = 0xFFFFFFFE;
@@ -349,6 +370,9 @@ constexpr UINT NM_RELEASEDCAPTURE = 0xFFFFFFF0;
 /// @}
 
 /// @name Virtual keys
+/// GetKeyState() tells the state of the keys of the numeric keypad, the function keys, and VK_OEM_1 to
+/// VK_OEM_7 with VK_OEM_PLUS, VK_OEM_COMMA, VK_OEM_MINUS and VK_OEM_PERIOD, which are named after the
+/// American keyboard. For the others it gives 0.
 /// @{
 constexpr int VK_CANCEL = 0x03;
 constexpr int VK_KANA = 0x15;

@@ -1,5 +1,9 @@
 /// @file KxMessages.h
 /// @brief Message delivery: SendMessageW(), PostMessageW() and the Qt event that carries a message.
+///
+/// A widget of the application receives messages in its event(), as a QKxMsgEvent. There are no window
+/// procedures to subclass and no queue but Qt's, and no event of a widget becomes a message: connect signals
+/// instead.
 #pragma once
 
 #include "KxWinTypes.h"
@@ -13,7 +17,7 @@ extern KX_MFC_EXPORT int iKxMsgEventType;
 class KX_MFC_EXPORT QKxMsgEvent : public QEvent
 {
 public:
-    /// An event of eventType() with a message number and its two parameters.
+    /// An event of eventType() that carries @p message with its parameters @p wParam and @p lParam.
     QKxMsgEvent(UINT message, WPARAM wParam, LPARAM lParam);
     ~QKxMsgEvent() override;
 
@@ -34,19 +38,19 @@ private:
 class KX_MFC_EXPORT QKxMessageCenter
 {
 public:
-    /// Sends a QKxMsgEvent to the widget at once.
-    /// @param hWnd taken as the receiver itself.
+    /// Sends a QKxMsgEvent with @p message, @p wParam and @p lParam at once to @p hWnd, which is taken as the
+    /// widget itself.
     /// @return 0, whatever the receiver did; nothing is sent to a null handle.
     static LRESULT sendMessage(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
-    /// Queues a QKxMsgEvent, which Qt owns and deletes, for the widget.
-    /// @param hWnd taken as the receiver itself.
+    /// Queues a QKxMsgEvent with @p message, @p wParam and @p lParam, which Qt owns and deletes, for @p hWnd,
+    /// which is taken as the widget itself.
     /// @return TRUE; FALSE when @p hWnd is null.
     static BOOL postMessage(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 };
 
 /// Sends a message.
 ///
-/// The handle is taken as the widget itself. BM_GETCHECK gives whether a QAbstractButton is checked and
+/// @p hWnd is taken as the widget itself. BM_GETCHECK gives whether a QAbstractButton is checked and
 /// BM_SETCHECK checks it when @p wParam is not 0; BM_SETIMAGE makes its icon from the image handle @p lParam;
 /// CB_ADDSTRING adds the wide text at @p lParam to a QComboBox, CB_GETCOUNT, CB_GETCURSEL, CB_RESETCONTENT
 /// and CB_SETCURSEL do as they are called. The widget emits its usual signals. These do nothing, and send
@@ -57,6 +61,7 @@ public:
 /// Win32 gives an index or a former value, for a null handle, and for a widget of another kind.
 KX_MFC_EXPORT LRESULT SendMessageW(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 
-/// Queues any message for the widget through QKxMessageCenter::postMessage().
+/// Queues @p message, also one that SendMessageW() answers itself, with @p wParam and @p lParam for the
+/// widget @p hWnd through QKxMessageCenter::postMessage().
 /// @return TRUE; FALSE when @p hWnd is null.
 KX_MFC_EXPORT bool PostMessageW(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);

@@ -20,23 +20,24 @@ class QRect;
 class QRegion;
 
 /// @name Pen styles
-/// PS_ENDCAP_FLAT and other bits above the low four are ignored.
+/// As KxQtPainterWrapper::setPen() draws them; LsToQPenStyle() converts them.
 /// @{
-constexpr int PS_SOLID = 0;
-constexpr int PS_DASH = 1;
-constexpr int PS_DOT = 2;
-constexpr int PS_DASHDOT = 3;
-constexpr int PS_DASHDOTDOT = 4;
-constexpr int PS_NULL = 5;
-constexpr int PS_INSIDEFRAME = 6;
-constexpr int PS_USERSTYLE = 7;
-constexpr int PS_ENDCAP_FLAT = 0x200;
+constexpr int PS_SOLID = 0;           ///< A solid line.
+constexpr int PS_DASH = 1;            ///< Dashes of 12 and gaps of 4 pen widths.
+constexpr int PS_DOT = 2;             ///< Dots.
+constexpr int PS_DASHDOT = 3;         ///< Dashes and dots in turn.
+constexpr int PS_DASHDOTDOT = 4;      ///< A dash and two dots in turn.
+constexpr int PS_NULL = 5;            ///< No line.
+constexpr int PS_INSIDEFRAME = 6;     ///< Dashes as those of PS_DASH, unlike Win32.
+constexpr int PS_USERSTYLE = 7;       ///< Dashes as those of PS_DASH, unlike Win32.
+constexpr int PS_ENDCAP_FLAT = 0x200; ///< Ignored, as all bits above the low four.
 /// @}
 
 /// @name Background modes
+/// For KxQtPainterWrapper::setBkMode().
 /// @{
-constexpr int TRANSPARENT = 1;
-constexpr int OPAQUE = 2;
+constexpr int TRANSPARENT = 1; ///< Gaps show what is below.
+constexpr int OPAQUE = 2;      ///< Gaps are filled with the background.
 /// @}
 
 /// Length of a face name, with its terminator.
@@ -158,8 +159,9 @@ public:
     /// @param mode OPAQUE: they are; TRANSPARENT and anything else: they are not.
     void setBkMode(int mode);
     void setBackground(COLORREF c); ///< Sets the background colour.
-    /// @return the QPainter::CompositionMode; this is not a Win32 raster operation.
+    /// @return the QPainter::CompositionMode that is set; this is not a Win32 raster operation.
     int getROP2() const;
+    /// Sets how what is drawn is combined with what is there.
     /// @param mode a QPainter::CompositionMode, not a Win32 raster operation; an unknown one is ignored.
     void setROP2(int mode);
     /// Sets the font: face name, italic, weight (a tenth of lfWeight as Qt counts weights, unless lfWeight is
@@ -175,13 +177,13 @@ public:
     /// @name Clipping and transformation
     /// @{
 
-    /// Sets the clip region, now and for every later beginDraw(): the odd-even area of polygons.
+    /// Sets the clip region, now and for every later beginDraw(): the odd-even area of polygons, in logical
+    /// coordinates. They are cut where they are beyond 8192 and 4096 off what the device shows, and beyond
+    /// 32768, so that huge ones cost no more than others.
     /// @param pts the points of all polygons, one after the other.
     /// @param counts the number of points of each polygon.
     /// @param n number of polygons. When it is 0, or an array is null, clipping is removed; so it is when the
     /// polygons have no area.
-    ///
-    /// Polygons are cut 4096 pixels off the device, so that huge ones cost no more than others.
     void setClipRegion(POINT *pts, UINT *counts, UINT n);
     /// Moves the origin to (@p cx, @p cy) and turns the axes there by @p angle degrees, clockwise. The
     /// origin stays moved: later coordinates count from it.
@@ -211,7 +213,8 @@ public:
     /// @param c colour of the filling.
     /// @param alpha its opacity; 255 and above is opaque; below 1 there is no filling.
     void drawAlphaRect(const CRect &rect, COLORREF c, int alpha);
-    /// Draws a polygon, odd-even, with the pen and a translucent filling, which becomes the brush.
+    /// Draws a polygon, odd-even, with the pen and a translucent filling, which becomes the brush. @p c and
+    /// @p alpha are as in drawAlphaRect().
     void drawAlphaArea(const CPoint *pts, int n, COLORREF c, int alpha);
     /// Draws @p bits as an image of @p a by @p b pixels whose top left corner is at (@p a, @p b) too. The
     /// fourth and fifth argument are ignored.

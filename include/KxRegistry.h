@@ -32,16 +32,16 @@ public:
     /// are written, filled up with nulls. A text of @p *count - 1 elements or more is therefore not
     /// terminated by this function. @p *count is not updated, unlike in ATL.
     /// @param buffer receives the text; owned by the caller.
+    /// @param valueName the name within the key. Null or empty reads as a missing value.
     /// @param count elements of @p buffer.
     /// @return 0; -1 when the text has more than @p *count UTF-16 units. Then the key's group stays open, so
     /// that the next call's group nests inside it. -1 with no effect when @p buffer or @p count is null.
     LONG QueryValue(wchar_t *buffer, const wchar_t *valueName, unsigned *count);
 
-    /// Sets the key's path, with backslashes between its groups. The other arguments are ignored.
+    /// Sets the key's path. The arguments but @p keyName are ignored, and @p disposition is not written.
     ///
-    /// Only the characters of @p keyName are written: on an object that had a longer path, the tail of that
-    /// path stays.
-    /// @param keyName at most 2048 elements.
+    /// The path @p keyName has backslashes between its groups and at most 2048 elements. Only its characters
+    /// are written: on an object that had a longer path, the tail of that path stays.
     /// @return 0, also for a null or longer @p keyName, which leaves the path as it was.
     LONG Create(HKEY parent, const wchar_t *keyName, wchar_t *className = nullptr, unsigned options = 0,
                 unsigned access = KEY_READ | KEY_WRITE, SECURITY_ATTRIBUTES *security = nullptr,
@@ -49,7 +49,7 @@ public:
 
     /// Writes a text value.
     /// @param value the text; null counts as empty.
-    /// @param valueName the name within the key. Nothing is written when it is null or empty.
+    /// @param valueName the name within the key. Nothing is written when it is null, empty, or slashes only.
     /// @param multi ignored.
     /// @param length ignored: the text ends at its null.
     /// @return 0.

@@ -120,7 +120,7 @@ public:
     /// @return a negative value, 0 or a positive value: this string is less than, equal to or greater than @p
     /// other.
     int Compare(const CT *other) const;
-    /// Compares without regard to case, by the rules of the classic "C" locale.
+    /// Compares with @p other without regard to case, by the rules of the classic "C" locale.
     /// @return a negative value, 0 or a positive value, as ssicmp() does.
     int CompareNoCase(const CT *other) const;
     /// @}
@@ -142,7 +142,7 @@ public:
 
     /// Erases all elements.
     void Empty() { this->clear(); }
-    /// Writes the element at @p index.
+    /// Puts @p ch in place of the element at @p index.
     /// @throws std::out_of_range when @p index is not in 0..size()-1.
     void SetAt(int index, CT ch) { this->at(static_cast<std::size_t>(index)) = ch; }
     /// Appends a string, which may be this one.
@@ -203,13 +203,14 @@ public:
     /// an argument cannot be converted, the string holds what the C library left; no error is reported. A
     /// null format gives an empty string.
     void Format(const CT *format, ...);
-    /// Format() on a started argument list.
+    /// Format() with the started argument list @p args, which is used up.
     void FormatV(const CT *format, va_list args);
-    /// Loads a string of the module set with AfxSetResourceHandle().
+    /// Loads string @p id of the module set with AfxSetResourceHandle(), cut at 1023 elements.
     /// @return true when a string was loaded; false, with an empty string, when there is none.
     bool LoadStringW(unsigned id);
-    /// Loads string @p id of a module, cut at 1023 elements.
+    /// Loads a string of a module, cut at 1023 elements.
     /// @param hinst the module; null for the one set with AfxSetResourceHandle().
+    /// @param id the string's identifier.
     /// @return true when a string was loaded; false, with an empty string, when there is none.
     bool LoadStringW(HINSTANCE hinst, unsigned id);
     /// @}

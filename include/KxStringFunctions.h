@@ -20,13 +20,13 @@ template <typename CT> inline int sslen(const CT *text)
     return text ? static_cast<int>(std::char_traits<CT>::length(text)) : 0;
 }
 
-/// Converts one element to upper case with @p locale.
+/// @return @p ch in upper case, by the rules of @p locale; itself when it has none.
 template <typename CT> inline CT sstoupper(const CT &ch, const std::locale &locale)
 {
     return std::toupper(ch, locale);
 }
 
-/// Converts one element to lower case with @p locale.
+/// @return @p ch in lower case, by the rules of @p locale; itself when it has none.
 template <typename CT> inline CT sstolower(const CT &ch, const std::locale &locale)
 {
     return std::tolower(ch, locale);
@@ -95,7 +95,10 @@ template <typename CT> int ssicmp(const CT *left, const CT *right)
 /// @{
 
 /// The C library's vswprintf().
+/// @param buffer receives the text, terminated; owned by the caller.
 /// @param count elements of @p buffer, the terminator included.
+/// @param format as in CString::Format(); not null.
+/// @param args the started argument list.
 /// @return the number of elements written without the terminator; negative when the output does not fit or an
 /// argument cannot be converted.
 KX_MFC_EXPORT int ssvsprintf(wchar_t *buffer, std::size_t count, const wchar_t *format, va_list args);
@@ -104,7 +107,9 @@ KX_MFC_EXPORT int ssvsprintf(wchar_t *buffer, std::size_t count, const wchar_t *
 /// stopped. Bytes that the locale cannot convert end the text; no error is reported.
 /// @param dst receives the text: room for @p dstLen elements and a terminator.
 /// @param dstLen elements that may be written before the terminator.
+/// @param src the narrow text, which need not be terminated.
 /// @param srcLen bytes to convert.
+/// @param locale the locale that says how @p src is encoded.
 /// @return @p dst.
 KX_MFC_EXPORT wchar_t *StdCodeCvt(wchar_t *dst, int dstLen, const char *src, int srcLen,
                                   const std::locale &locale);
@@ -113,7 +118,7 @@ KX_MFC_EXPORT wchar_t *StdCodeCvt(wchar_t *dst, int dstLen, const char *src, int
 /// @name Assigning and appending
 /// @{
 
-/// Assigns @p src; does nothing when both share one buffer.
+/// Assigns @p src to @p dst; does nothing when both share one buffer.
 template <typename CT> inline void ssasn(std::basic_string<CT> &dst, const std::basic_string<CT> &src)
 {
     if (dst.c_str() != src.c_str())
@@ -137,8 +142,8 @@ template <typename CT> void ssasn(std::basic_string<CT> &dst, const CT *src)
         dst.assign(src);
 }
 
-/// Assigns narrow text, converted with the global locale's std::codecvt facet. Text that the locale cannot
-/// convert ends there. A null pointer empties @p dst.
+/// Assigns the narrow text @p src, converted with the global locale's std::codecvt facet. Text that the
+/// locale cannot convert ends there. A null pointer empties @p dst.
 template <typename CT> void ssasn(std::basic_string<CT> &dst, const char *src)
 {
     const int count = sslen(src);

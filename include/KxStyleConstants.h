@@ -8,6 +8,8 @@
 #include "KxWinTypes.h"
 
 /// @name Window styles
+/// The widget has its flags from Qt: CWnd::Create() and CWnd::ModifyStyle() ignore these, and
+/// CWnd::GetStyle() gives 0.
 /// @{
 constexpr DWORD WS_OVERLAPPED = 0x00000000;
 constexpr DWORD WS_POPUP = 0x80000000;
@@ -32,6 +34,7 @@ constexpr DWORD WS_POPUPWINDOW = 0x80880000;
 /// @}
 
 /// @name Extended window styles
+/// CWnd::ModifyStyleEx() ignores them.
 /// @{
 constexpr DWORD WS_EX_DLGMODALFRAME = 0x00000001;
 constexpr DWORD WS_EX_NOPARENTNOTIFY = 0x00000004;
@@ -50,6 +53,7 @@ constexpr DWORD WS_EX_LAYERED = 0x00080000;
 /// @}
 
 /// @name Dialog styles
+/// Ignored: a dialog is a QDialog and has its flags from Qt.
 /// @{
 constexpr DWORD DS_ABSALIGN = 0x0001;
 constexpr DWORD DS_SYSMODAL = 0x0002;
@@ -65,6 +69,7 @@ constexpr DWORD DS_CONTEXTHELP = 0x2000;
 /// @}
 
 /// @name Button styles
+/// Ignored: the class of the widget says what kind of button it is.
 /// @{
 constexpr DWORD BS_PUSHBUTTON = 0x0000;
 constexpr DWORD BS_DEFPUSHBUTTON = 0x0001;
@@ -92,6 +97,7 @@ constexpr DWORD BS_FLAT = 0x8000;
 /// @}
 
 /// @name Edit control styles
+/// Ignored: set the properties of the QLineEdit or QTextEdit.
 /// @{
 constexpr DWORD ES_LEFT = 0x0000;
 constexpr DWORD ES_CENTER = 0x0001;
@@ -109,6 +115,7 @@ constexpr DWORD ES_NUMBER = 0x2000;
 /// @}
 
 /// @name Static control styles
+/// Ignored: set the properties of the QLabel.
 /// @{
 constexpr DWORD SS_LEFT = 0x0000;
 constexpr DWORD SS_CENTER = 0x0001;
@@ -128,6 +135,7 @@ constexpr DWORD SS_SUNKEN = 0x1000;
 /// @}
 
 /// @name Combo box styles
+/// Ignored: set the properties of the QComboBox.
 /// @{
 constexpr DWORD CBS_SIMPLE = 0x0001;
 constexpr DWORD CBS_DROPDOWN = 0x0002;
@@ -144,6 +152,7 @@ constexpr DWORD CBS_LOWERCASE = 0x4000;
 /// @}
 
 /// @name List box styles
+/// Ignored: set the properties of the QListWidget.
 /// @{
 constexpr DWORD LBS_NOTIFY = 0x0001;
 constexpr DWORD LBS_SORT = 0x0002;
@@ -164,6 +173,8 @@ constexpr DWORD LBS_STANDARD = 0x00A00003;
 /// @}
 
 /// @name Show commands
+/// CWnd::ShowWindow() shows the widget for each of them, as for SW_SHOW; none of them activates, minimises,
+/// maximises or restores it.
 /// @{
 constexpr int SW_NORMAL = 0x1;
 constexpr int SW_MAXIMIZE = 0x3;
@@ -177,6 +188,7 @@ constexpr int SW_FORCEMINIMIZE = 0xB;
 /// @}
 
 /// @name Window position flags
+/// CWnd::SetWindowPos() ignores them.
 /// @{
 constexpr UINT SWP_NOREDRAW = 0x0008;
 constexpr UINT SWP_NOACTIVATE = 0x0010;
@@ -191,6 +203,7 @@ constexpr UINT SWP_NOSENDCHANGING = 0x0400;
 /// @}
 
 /// @name Window relations
+/// CWnd::GetWindow() and CWnd::GetNextWindow() give null for them.
 /// @{
 constexpr UINT GW_HWNDFIRST = 0x0;
 constexpr UINT GW_HWNDLAST = 0x1;
@@ -199,6 +212,7 @@ constexpr UINT GW_OWNER = 0x4;
 /// @}
 
 /// @name Redraw flags
+/// CWnd::RedrawWindow() ignores them.
 /// @{
 constexpr UINT RDW_INVALIDATE = 0x0001;
 constexpr UINT RDW_INTERNALPAINT = 0x0002;
@@ -213,6 +227,7 @@ constexpr UINT RDW_FRAME = 0x0400;
 /// @}
 
 /// @name Menu flags
+/// No function takes them: menus are made with Qt.
 /// @{
 constexpr UINT MF_BYCOMMAND = 0x0000;
 constexpr UINT MF_BYPOSITION = 0x0400;
@@ -229,6 +244,7 @@ constexpr UINT MF_POPUP = 0x0010;
 /// @}
 
 /// @name System commands
+/// Parameters of WM_SYSCOMMAND, which the library never sends.
 /// @{
 constexpr UINT SC_SIZE = 0xF000;
 constexpr UINT SC_MOVE = 0xF010;
@@ -240,6 +256,7 @@ constexpr UINT SC_RESTORE = 0xF120;
 /// @}
 
 /// @name System metrics
+/// GetSystemMetrics() gives 0 for them.
 /// @{
 constexpr int SM_CXSCREEN = 0x0;
 constexpr int SM_CYSCREEN = 0x1;
@@ -268,6 +285,7 @@ constexpr int SM_CYVIRTUALSCREEN = 0x4F;
 /// @}
 
 /// @name System colours
+/// No function takes them: colours come from the QPalette of a widget.
 /// @{
 constexpr int COLOR_SCROLLBAR = 0x0;
 constexpr int COLOR_BACKGROUND = 0x1;
@@ -297,6 +315,7 @@ constexpr int COLOR_INFOBK = 0x18;
 /// @}
 
 /// @name Message box types
+/// MessageBoxW() ignores them: Qt chooses the default button, and a box is always modal and on top.
 /// @{
 constexpr UINT MB_DEFBUTTON1 = 0x0000;
 constexpr UINT MB_DEFBUTTON2 = 0x0100;
@@ -309,6 +328,7 @@ constexpr UINT MB_TOPMOST = 0x00040000;
 /// @}
 
 /// @name Control and dialog identifiers
+/// No function gives them as a result.
 /// @{
 constexpr int IDCLOSE = 0x8;
 constexpr int IDHELP = 0x9;

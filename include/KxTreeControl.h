@@ -1,5 +1,7 @@
 /// @file KxTreeControl.h
 /// @brief CTreeCtrl, a tree view over QTreeWidget, with its records and constants.
+///
+/// The records are in the published 64-bit layouts.
 #pragma once
 
 #include "KxWindows.h"
@@ -12,44 +14,47 @@ class QTreeWidgetItem;
 using HTREEITEM = QTreeWidgetItem *;
 
 /// @name Special items
-/// TVI_ROOT is a parent for CTreeCtrl::InsertItem() from a text, and no item anywhere else. The others are
-/// positions, all of which append.
 /// @{
+
+/// The parent of the top-level items, for CTreeCtrl::InsertItem() from a text; no item anywhere else.
 inline const HTREEITEM TVI_ROOT = reinterpret_cast<HTREEITEM>(std::intptr_t{-0x10000});
+/// A position to insert at; the item is appended all the same, unlike MFC.
 inline const HTREEITEM TVI_FIRST = reinterpret_cast<HTREEITEM>(std::intptr_t{-0x0FFFF});
+/// A position to insert at: the end.
 inline const HTREEITEM TVI_LAST = reinterpret_cast<HTREEITEM>(std::intptr_t{-0x0FFFE});
+/// A position to insert at; the item is appended all the same, unlike MFC.
 inline const HTREEITEM TVI_SORT = reinterpret_cast<HTREEITEM>(std::intptr_t{-0x0FFFD});
 /// @}
 
 /// @name Fields of an item record
 /// No operation looks at them.
 /// @{
-constexpr UINT TVIF_TEXT = 0x0001;
-constexpr UINT TVIF_IMAGE = 0x0002;
-constexpr UINT TVIF_PARAM = 0x0004;
-constexpr UINT TVIF_STATE = 0x0008;
-constexpr UINT TVIF_HANDLE = 0x0010;
-constexpr UINT TVIF_SELECTEDIMAGE = 0x0020;
-constexpr UINT TVIF_CHILDREN = 0x0040;
+constexpr UINT TVIF_TEXT = 0x0001;          ///< TVITEMW::pszText.
+constexpr UINT TVIF_IMAGE = 0x0002;         ///< TVITEMW::iImage.
+constexpr UINT TVIF_PARAM = 0x0004;         ///< TVITEMW::lParam.
+constexpr UINT TVIF_STATE = 0x0008;         ///< TVITEMW::state.
+constexpr UINT TVIF_HANDLE = 0x0010;        ///< TVITEMW::hItem.
+constexpr UINT TVIF_SELECTEDIMAGE = 0x0020; ///< TVITEMW::iSelectedImage.
+constexpr UINT TVIF_CHILDREN = 0x0040;      ///< TVITEMW::cChildren.
 /// @}
 
 /// @name Item states
 /// CTreeCtrl::SetItemState() knows TVIS_EXPANDED, alone.
 /// @{
-constexpr UINT TVIS_SELECTED = 0x0002;
-constexpr UINT TVIS_CUT = 0x0004;
-constexpr UINT TVIS_DROPHILITED = 0x0008;
-constexpr UINT TVIS_BOLD = 0x0010;
-constexpr UINT TVIS_EXPANDED = 0x0020;
-constexpr UINT TVIS_EXPANDEDONCE = 0x0040;
-constexpr UINT TVIS_EXPANDPARTIAL = 0x0080;
-constexpr UINT TVIS_OVERLAYMASK = 0x0F00;
-constexpr UINT TVIS_STATEIMAGEMASK = 0xF000;
-constexpr UINT TVIS_USERMASK = 0xF000;
+constexpr UINT TVIS_SELECTED = 0x0002;       ///< Ignored: use CTreeCtrl::SelectItem().
+constexpr UINT TVIS_CUT = 0x0004;            ///< Ignored.
+constexpr UINT TVIS_DROPHILITED = 0x0008;    ///< Ignored.
+constexpr UINT TVIS_BOLD = 0x0010;           ///< Ignored.
+constexpr UINT TVIS_EXPANDED = 0x0020;       ///< Expands.
+constexpr UINT TVIS_EXPANDEDONCE = 0x0040;   ///< Ignored.
+constexpr UINT TVIS_EXPANDPARTIAL = 0x0080;  ///< Ignored.
+constexpr UINT TVIS_OVERLAYMASK = 0x0F00;    ///< Ignored.
+constexpr UINT TVIS_STATEIMAGEMASK = 0xF000; ///< Ignored.
+constexpr UINT TVIS_USERMASK = 0xF000;       ///< Ignored.
 /// @}
 
 /// @name Codes of CTreeCtrl::Expand()
-/// All of them expand.
+/// All of them expand: nothing collapses an item, unlike MFC.
 /// @{
 constexpr UINT TVE_COLLAPSE = 0x0001;
 constexpr UINT TVE_EXPAND = 0x0002;
@@ -61,27 +66,26 @@ constexpr UINT TVE_COLLAPSERESET = 0x8000;
 /// @name Relations of items
 /// CTreeCtrl::GetNextItem() knows TVGN_NEXT; CTreeCtrl::Select() ignores its code.
 /// @{
-constexpr UINT TVGN_ROOT = 0x0000;
-constexpr UINT TVGN_NEXT = 0x0001;
-constexpr UINT TVGN_PREVIOUS = 0x0002;
-constexpr UINT TVGN_PARENT = 0x0003;
-constexpr UINT TVGN_CHILD = 0x0004;
-constexpr UINT TVGN_FIRSTVISIBLE = 0x0005;
-constexpr UINT TVGN_NEXTVISIBLE = 0x0006;
-constexpr UINT TVGN_PREVIOUSVISIBLE = 0x0007;
-constexpr UINT TVGN_DROPHILITE = 0x0008;
-constexpr UINT TVGN_CARET = 0x0009;
-constexpr UINT TVGN_LASTVISIBLE = 0x000A;
+constexpr UINT TVGN_ROOT = 0x0000;            ///< Finds nothing.
+constexpr UINT TVGN_NEXT = 0x0001;            ///< The next item of the same parent.
+constexpr UINT TVGN_PREVIOUS = 0x0002;        ///< Finds nothing.
+constexpr UINT TVGN_PARENT = 0x0003;          ///< Finds nothing.
+constexpr UINT TVGN_CHILD = 0x0004;           ///< Finds nothing.
+constexpr UINT TVGN_FIRSTVISIBLE = 0x0005;    ///< Finds nothing.
+constexpr UINT TVGN_NEXTVISIBLE = 0x0006;     ///< Finds nothing.
+constexpr UINT TVGN_PREVIOUSVISIBLE = 0x0007; ///< Finds nothing.
+constexpr UINT TVGN_DROPHILITE = 0x0008;      ///< Finds nothing.
+constexpr UINT TVGN_CARET = 0x0009;           ///< Finds nothing.
+constexpr UINT TVGN_LASTVISIBLE = 0x000A;     ///< Finds nothing.
 /// @}
 
 /// @name Kinds of image lists
+/// Ignored: a tree has no image lists.
 /// @{
 constexpr int TVSIL_NORMAL = 0;
 constexpr int TVSIL_STATE = 2;
 /// @}
 
-/// @name Records
-/// @{
 /// An item of a tree.
 struct TVITEMW
 {
@@ -128,10 +132,9 @@ struct TVINSERTSTRUCTW
         TVITEMW item;     ///< The item: its text and its data count.
     };
 };
-/// @}
 
-using LPTVITEMW = TVITEMW *;
-using LPTVINSERTSTRUCTW = TVINSERTSTRUCTW *;
+using LPTVITEMW = TVITEMW *;                 ///< A pointer to an item.
+using LPTVINSERTSTRUCTW = TVINSERTSTRUCTW *; ///< A pointer to an item to insert.
 
 static_assert(offsetof(TVITEMW, hItem) == 8 && offsetof(TVITEMW, state) == 16);
 static_assert(offsetof(TVITEMW, stateMask) == 20 && offsetof(TVITEMW, pszText) == 24);
@@ -234,7 +237,10 @@ public:
     /// Expands an item when the bits of @p nState in @p nStateMask are TVIS_EXPANDED and no other; every
     /// other state changes nothing. @return 1, also for null.
     BOOL SetItemState(HTREEITEM hItem, UINT nState, UINT nStateMask);
-    /// Makes an item current, then selects it. @param nCode ignored. @return 1, also for null.
+    /// Makes an item current, then selects it.
+    /// @param hItem the item; nothing happens for null.
+    /// @param nCode ignored.
+    /// @return 1, also for null.
     BOOL Select(HTREEITEM hItem, UINT nCode);
     /// Selects an item, then makes it current. In a tree with QAbstractItemView::MultiSelection, where
     /// becoming current toggles the selection, this order leaves an item unselected that was not current; use

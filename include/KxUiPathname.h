@@ -73,6 +73,7 @@ public:
     ///
     /// White space around the text is dropped, and so is a pair of double quotes with the white space around
     /// and inside it.
+    /// @param text the text; it may be one of this object's own.
     /// @param base the directory that a relative @p text is relative to; may be this object. Null, or one
     /// that is no path, for absolute texts only.
     /// @param flag no effect.
@@ -129,8 +130,9 @@ public:
     /// Shortens the path for a caption.
     ///
     /// A path that does not fit becomes a marker and as many of its last components as fit: "..." or, for a
-    /// path with a drive, the volume's name and "\...", with a backslash. When the marker and the base name
-    /// do not fit either, the base name stands alone, its middle replaced by "~" where it is too long itself.
+    /// path with a drive, the name of its volume, if it has one, and "\...", with a backslash. When the
+    /// marker and the base name do not fit either, the base name stands alone, its middle replaced by "~"
+    /// where it is too long itself.
     /// @param out receives the text; empty when this is no path.
     /// @param maxChars the most characters; below 12 counts as 12, and -1 as the full length.
     void GetDisplayName(CString &out, int maxChars) const;
@@ -178,13 +180,13 @@ public:
     /// Replaces the extension, or appends one.
     /// @param ext with or without its dot; the empty text removes the extension; null gives 1.
     unsigned ReplaceExtensionAlways(const wchar_t *ext);
-    /// Replaces the extension by the first of @p list, unless the list holds it already.
+    /// Replaces the extension by the first of @p list, unless the list holds it already; null gives 1.
     unsigned ReplaceExtensionIfNoMatch(const wchar_t *list);
     /// Appends a dot and an extension. Unlike ReplaceExtensionAlways() this takes a dot of @p ext for a part
     /// of it: ".dat" gives "name..dat".
     /// @param ext the empty text appends nothing; null gives 1.
     unsigned AddExtensionAlways(const wchar_t *ext);
-    /// Appends the first extension of @p list, unless the list holds that of the path already.
+    /// Appends the first extension of @p list, unless the list holds that of the path already; null gives 1.
     unsigned AddExtensionIfNoMatch(const wchar_t *list);
     /// Removes the extension with its dot.
     void RemoveExtensionAlways();
@@ -213,8 +215,8 @@ public:
     bool OpenWriteOnly(void *&handle) const;
     /// Not supported: ends the process with std::terminate().
     [[noreturn]] void Open(FILE **file, const wchar_t *mode);
-    /// Renames or moves the file. The current directory is the base directory meanwhile, and stays so when the
-    /// former one is gone or its name is longer than 1023 characters.
+    /// Renames or moves the file. The current directory is the base directory meanwhile, and stays so when
+    /// the former one is gone or its name is longer than 1023 characters.
     /// @param newName taken over as the path on success; category, type and base directory stay.
     /// @return whether it was renamed. False for null, when @p newName exists, and when the current directory
     /// cannot be changed to the base directory.
@@ -245,6 +247,7 @@ public:
     /// @param root gets a trailing separator; left alone when it is empty.
     /// @return 0; 1 when @p root is empty.
     int GetFileSystem(CString &root) const;
+    /// Looks a volume up by its name.
     /// @param volume for example "C:", in this case.
     /// @return the first descriptor in ::volumeList with this name; else that of NewVolDescriptor(); null
     /// when @p volume is empty.
@@ -269,6 +272,7 @@ public:
     /// is null or @p n is negative.
     /// @param dst room for @p n + 1 characters.
     /// @param src at least @p n characters.
+    /// @param n the number of characters; below 0 nothing is written.
     void lstrncpy_x(wchar_t *dst, const wchar_t *src, int n) const;
     /// @}
 
@@ -304,12 +308,17 @@ private:
 /// @name The steps of parsing
 /// @{
 
-/// Turns every backslash of @p work into @p separator.
+/// Turns every backslash of a path into the separator.
+/// @param work the path.
+/// @param separator what stands between components.
 /// @param first receives the first character.
 /// @param second receives the second character; 0 when there is none.
 KX_MFC_EXPORT void GetWorkString(CString &work, wchar_t separator, wchar_t &first, wchar_t &second);
 /// Tells the category of a path from its first two characters.
 /// @param work the path; a drive letter is made upper case.
+/// @param separator what stands between components.
+/// @param first the first character.
+/// @param second the second character; 0 when there is none.
 /// @param base what a relative path is relative to; may be null.
 /// @param category receives the category.
 /// @return false when the path holds a colon and has no drive, or is relative without a base that is a path.
@@ -321,6 +330,9 @@ KX_MFC_EXPORT void ParseRelPath(CString **path, wchar_t separator, path_category
 /// @return 0. Fixed result: network paths have no server and share, so that parsing refuses them.
 KX_MFC_EXPORT unsigned GetUNCScount(const CString &work, wchar_t separator);
 /// Finds what follows the prefix of a path. A network path that ends there gets a separator.
+/// @param work the path.
+/// @param separator what stands between components.
+/// @param category the path's category.
 /// @param prefix characters of the prefix; limited to those there are.
 /// @return the rest of @p work, valid until it is changed.
 KX_MFC_EXPORT const wchar_t *GetWorkPtrByIndex(CString &work, wchar_t separator, path_category category,
@@ -329,14 +341,16 @@ KX_MFC_EXPORT const wchar_t *GetWorkPtrByIndex(CString &work, wchar_t separator,
 /// @param category a rooted path has the name of its volume, an empty string without one; a relative path the
 /// full path of its base; all others have none.
 /// @param base what a relative path is relative to; may be null.
-/// @param volume may be null.
+/// @param volume the volume of the path; may be null.
 /// @param baseDir receives a new string, owned by the caller, or null; what was there is not deleted. Nothing
 /// happens for null.
 KX_MFC_EXPORT void GetRelPath(path_category category, const CKdUiPathname *base,
                               CKdUiVolumeDescriptor *volume, CString **baseDir);
-/// Joins a base directory and a path, with one @p separator added when neither has it.
+/// Joins a base directory and a path, with one separator added when neither has it.
 /// @param buffer receives the text; may be @p work.
-/// @param baseDir may be null.
+/// @param baseDir the base directory; may be null.
+/// @param separator what stands between components.
+/// @param work the path.
 /// @param flag no effect.
 /// @return true.
 KX_MFC_EXPORT bool GetPathBuffer(CString &buffer, const CString *baseDir, wchar_t separator,

@@ -21,26 +21,29 @@ extern KX_MFC_EXPORT std::map<HWND, long> g_hwndMap;
 KX_MFC_EXPORT HWND GetDlgItem(HWND hDlg, int nIDDlgItem);
 /// @return the registered window's control identifier; 0 when @p hWnd is not registered.
 KX_MFC_EXPORT int GetDlgCtrlID(HWND hWnd);
-/// @return the handle of the registered window's logical parent; null when it has none or is not registered.
+/// @return the handle of the logical parent of @p hWnd; null when it has none or is not registered.
 KX_MFC_EXPORT HWND GetParent(HWND hWnd);
 /// Gives a window's rectangle on the screen, in pixels, right and bottom inclusive.
 ///
 /// The rectangle starts at the widget's own position, mapped to the screen through its parent widget when it
 /// has one, and has the size of the frame.
 /// @param hWnd taken as the widget itself.
+/// @param lpRect receives the rectangle.
 /// @return TRUE; FALSE when an argument is null.
 KX_MFC_EXPORT BOOL GetWindowRect(HWND hWnd, RECT *lpRect);
 /// Gives the inside of a registered window through CWnd::GetClientRect(), right and bottom inclusive.
-/// @return TRUE; FALSE when the window is not registered or @p lpRect is null.
+/// @return TRUE; FALSE when @p hWnd is not registered or @p lpRect is null.
 KX_MFC_EXPORT BOOL GetClientRect(HWND hWnd, RECT *lpRect);
-/// Shows or hides a registered window.
-/// @return the result of CWnd::ShowWindow(); FALSE when the window is not registered.
+/// Hides a registered window when @p nCmdShow is SW_HIDE, else shows it.
+/// @return the result of CWnd::ShowWindow(); FALSE when @p hWnd is not registered.
 KX_MFC_EXPORT BOOL ShowWindow(HWND hWnd, int nCmdShow);
-/// Sets a registered window's text through CWnd::SetWindowTextW().
-/// @return TRUE; FALSE when the window is not registered.
+/// Sets a registered window's text through CWnd::SetWindowTextW(). A null @p lpString changes nothing.
+/// @return TRUE; FALSE when @p hWnd is not registered.
 KX_MFC_EXPORT BOOL SetWindowTextW(HWND hWnd, const wchar_t *lpString);
 /// Reads a registered window's text through CWnd::GetWindowTextW().
-/// @param nMaxCount size of @p lpString in characters.
+/// @param hWnd the window.
+/// @param lpString receives the text, which is cut where needed and always terminated.
+/// @param nMaxCount size of @p lpString in characters, the terminator included.
 /// @return the number of characters copied; 0 when the window is not registered.
 KX_MFC_EXPORT int GetWindowTextW(HWND hWnd, wchar_t *lpString, int nMaxCount);
 /// @return the length in characters of a registered window's text; 0 when the window is not registered.
@@ -49,6 +52,7 @@ KX_MFC_EXPORT int GetWindowTextLengthW(HWND hWnd);
 KX_MFC_EXPORT int GetWindowTextLengthA(HWND hWnd);
 /// Enables or disables a window.
 /// @param hWnd taken as the widget itself.
+/// @param bEnable true to enable.
 /// @return TRUE, not the former state as in Win32; FALSE when @p hWnd is null.
 KX_MFC_EXPORT BOOL EnableWindow(HWND hWnd, bool bEnable);
 /// Names the window class of a widget: "Edit" for a QLineEdit, QDoubleSpinBox or QSpinBox, "Button" for a
@@ -57,6 +61,7 @@ KX_MFC_EXPORT BOOL EnableWindow(HWND hWnd, bool bEnable);
 /// @param hWnd taken as the widget itself; null counts as another one.
 /// @param lpClassName receives at most @p nMaxCount - 1 characters, always ended by a null at @p nMaxCount -
 /// 1.
+/// @param nMaxCount size of @p lpClassName in characters.
 /// @return the length of what is in the buffer now; 0 with nothing written when @p nMaxCount is below 1.
 KX_MFC_EXPORT int GetClassNameW(HWND hWnd, wchar_t *lpClassName, int nMaxCount);
 /// @}
@@ -64,11 +69,11 @@ KX_MFC_EXPORT int GetClassNameW(HWND hWnd, wchar_t *lpClassName, int nMaxCount);
 /// @name Window longs
 /// @{
 
-/// @return for GWL_ID the control identifier of the registered window, for index 1 the value that
-/// SetWindowLongW() stored; 0 when there is none, for every other index and for a null handle.
+/// @return for @p nIndex GWL_ID the control identifier of the registered window, for 1 the value that
+/// SetWindowLongW() stored; 0 when there is none, for every other index and for a null @p hWnd.
 KX_MFC_EXPORT LONG_PTR GetWindowLongPtrW(HWND hWnd, int nIndex);
-/// Stores @p dwNewLong under index 1. A handle keeps the first value ever stored for it, also when its widget
-/// dies and another one gets the same address.
+/// Stores @p dwNewLong for @p hWnd when @p nIndex is 1. A handle keeps the first value ever stored for it,
+/// also when its widget dies and another one gets the same address.
 /// @return the value that was stored before the call; 0 when there was none, for every other index and for a
 /// null handle.
 KX_MFC_EXPORT long SetWindowLongW(HWND hWnd, int nIndex, long dwNewLong);
@@ -77,28 +82,29 @@ KX_MFC_EXPORT long SetWindowLongW(HWND hWnd, int nIndex, long dwNewLong);
 /// @name Input and metrics
 /// @{
 
-/// @return the state of a virtual key as the platform's keyboard service tells it: negative while the key is
-/// down, bit 0 set while a lock key is on.
+/// @return the state of @p nVirtKey, a VK_ code or the ASCII code of a digit or capital letter, as the
+/// platform's keyboard service tells it: negative while the key is down, bit 0 set while a lock key is on; 0
+/// for an unknown key.
 KX_MFC_EXPORT SHORT GetKeyState(int nVirtKey);
-/// Same as GetKeyState().
+/// GetKeyState(), unlike Win32 without a bit for presses since the last call.
 KX_MFC_EXPORT SHORT GetAsyncKeyState(int vKey);
-/// @return width (SM_CXFULLSCREEN) or height (SM_CYFULLSCREEN) of the default screen in pixels; 0 for every
-/// other index.
+/// @return width (SM_CXFULLSCREEN) or height (SM_CYFULLSCREEN) of the default screen in pixels, panels
+/// included; 0 for every other @p nIndex and without a screen.
 KX_MFC_EXPORT int GetSystemMetrics(int nIndex);
 /// @}
 
 /// @name Resource modules
 /// @{
 
-/// Loads a shared library through the platform's LoadLibraryW().
-/// @return its handle; null when it cannot be loaded. Free it with AfxFreeLibrary().
+/// Loads the shared library @p lpszModuleName through the platform's LoadLibraryW().
+/// @return its handle, owned by the caller and released with AfxFreeLibrary(); null when it cannot be loaded.
 KX_MFC_EXPORT HINSTANCE AfxLoadLibrary(const wchar_t *lpszModuleName);
 /// Releases a library that AfxLoadLibrary() gave.
 /// @return whether it was released.
 KX_MFC_EXPORT bool AfxFreeLibrary(HINSTANCE hInstLib);
 /// @return the module that string resources are loaded from; null until AfxSetResourceHandle() was called.
 KX_MFC_EXPORT HINSTANCE AfxGetResourceHandle();
-/// Sets the module that string resources are loaded from, for the whole process.
+/// Sets the module that string resources are loaded from, for the whole process; null is the program itself.
 KX_MFC_EXPORT void AfxSetResourceHandle(HINSTANCE hInstResource);
 /// @}
 

@@ -16,12 +16,12 @@
 /// Kinds of file systems. 1 and 7 are not used.
 enum FS_TYPE : unsigned {
     FS_NONE = 0, ///< No file system.
-    FS_NTFS = 2,
+    FS_NTFS = 2, ///< That of CKdUiNTFSVolumeDescriptor.
     FS_FAT = 3,  ///< FAT with names of 8.3 characters.
     FS_VFAT = 4, ///< FAT with long names.
-    FS_HPFS = 5,
-    FS_CDFS = 6,
-    FS_UFS = 8 ///< A network file system.
+    FS_HPFS = 5, ///< The high-performance file system.
+    FS_CDFS = 6, ///< The file system of a CD-ROM.
+    FS_UFS = 8   ///< A network file system.
 };
 
 /// The rules of one volume. Where a text is null, the answer is false.
@@ -30,13 +30,13 @@ class KX_MFC_EXPORT CKdUiVolumeDescriptor
 public:
     /// Flags of a volume.
     enum Flag : BYTE {
-        fixedDrive = 0x01,
-        removable = 0x02,
-        cdRom = 0x04,
-        remote = 0x08,
-        ramDisk = 0x10,
-        readOnly = 0x20,
-        caseSensitive = 0x40
+        fixedDrive = 0x01,   ///< A drive whose medium stays.
+        removable = 0x02,    ///< A drive whose medium can be taken out.
+        cdRom = 0x04,        ///< A CD-ROM drive; #readOnly too.
+        remote = 0x08,       ///< A drive of the network.
+        ramDisk = 0x10,      ///< A drive in memory.
+        readOnly = 0x20,     ///< What CheckReadOnly() gives.
+        caseSensitive = 0x40 ///< What IsCaseSensitive() gives; nothing here sets it.
     };
 
     /// A fixed drive, whatever the volume is.
@@ -44,6 +44,7 @@ public:
     explicit CKdUiVolumeDescriptor(const CString &name);
     CKdUiVolumeDescriptor(const CKdUiVolumeDescriptor &) = delete;
     CKdUiVolumeDescriptor &operator=(const CKdUiVolumeDescriptor &) = delete;
+    /// Frees the names.
     virtual ~CKdUiVolumeDescriptor();
 
     /// @return whether the volume cannot be written.
@@ -74,10 +75,10 @@ public:
     virtual bool VolMatch(const CString *left, const CString *right);
     /// @return the name given to the constructor, owned by the descriptor.
     virtual const CString *GetLocalName();
-    /// @return 0x7FFFFFFF bytes. Fixed result: the free space is not known.
+    /// Fixed result: 0x7FFFFFFF bytes. The free space is not known.
     virtual unsigned GetVolFreeSpace();
+    /// Fixed result: true. The free space is not known.
     /// @param size in bytes; ignored.
-    /// @return true. Fixed result: the free space is not known.
     virtual bool WillFit(unsigned size);
     /// @return whether the volume is still of its kind: true for a fixed drive and a RAM disk; false for all
     /// others, since the platform does not tell.
@@ -139,6 +140,7 @@ public:
 class KX_MFC_EXPORT CDelVolumeList
 {
 public:
+    /// Makes an object; the list stays as it is.
     CDelVolumeList() = default;
     CDelVolumeList(const CDelVolumeList &) = delete;
     CDelVolumeList &operator=(const CDelVolumeList &) = delete;
@@ -161,9 +163,11 @@ KX_MFC_EXPORT void GetDriveTypeByVol(const wchar_t *fsName, FS_TYPE &type, unsig
 /// Writes the name of a kind of file system and a line feed, with fwprintf(): "NTFS", "FAT", "VFAT", "NOFS"
 /// for 0, "UFS", "CDFS", "HPFS"; "???" for any other.
 /// @param f the stream, which is not closed. With null, or a null stream, nothing is written.
+/// @param t the kind.
 KX_MFC_EXPORT void dump_file_type(FILE **f, FS_TYPE t);
 
 /// Checks the colons of a name.
+/// @param name the name.
 /// @param first the name's first character.
 /// @return true without a colon, and when the last colon is at index 1 and @p first is a letter; false
 /// otherwise and for null.
@@ -176,9 +180,9 @@ KX_MFC_EXPORT void StringFromPath(CString &out, const CString *path);
 /// No counterpart on this platform: nothing is known about any volume.
 /// @{
 
-/// @param success false afterwards. All else stays as it is.
+/// Fixed result: sets @p success to false. All else stays as it is.
 KX_MFC_EXPORT void GetVolumeInfo(const wchar_t *root, CString &fsName, unsigned &maxComponent, bool &success);
-/// @return 1. Everything stays as it is.
+/// Fixed result: 1. Everything stays as it is.
 KX_MFC_EXPORT unsigned GetVolumeInfo(const wchar_t *root, CString &volumeName, unsigned &maxComponent,
                                      unsigned &fsFlags, CString &fsName);
 /// @}

@@ -13,29 +13,34 @@
 /// Marks what the library exports.
 #define KX_MFC_EXPORT __attribute__((visibility("default")))
 
+/// @name Values of BOOL
+/// Functions that take a BOOL take every value but 0 as TRUE, unless they say otherwise.
+/// @{
 #ifndef TRUE
 #define TRUE 1
 #endif
 #ifndef FALSE
 #define FALSE 0
 #endif
+/// @}
 
 /// @name Scalar types
+/// They have the widths of 64-bit Win32, whatever C's long has.
 /// @{
-using BOOL = int;
+using BOOL = int; ///< FALSE, or TRUE or another number for true.
 using BYTE = std::uint8_t;
 using WORD = std::uint16_t;
 using LANGID = std::uint16_t; ///< A language in the low 10 bits, its variant above.
 using SHORT = std::int16_t;
 using UINT = std::uint32_t;
 using DWORD = std::uint32_t;
-using LONG = std::int32_t;
-using ULONG = std::uint32_t;
+using LONG = std::int32_t;   ///< 32 bits, not the 64 of C's long.
+using ULONG = std::uint32_t; ///< 32 bits, not the 64 of C's unsigned long.
 using LONGLONG = long long;
 using ULONGLONG = unsigned long long;
-using WPARAM = std::uint64_t;
-using LPARAM = std::int64_t;
-using LRESULT = std::int64_t;
+using WPARAM = std::uint64_t; ///< First parameter of a message: a number or an address.
+using LPARAM = std::int64_t;  ///< Second parameter of a message: a number or an address.
+using LRESULT = std::int64_t; ///< Result of a message.
 using INT_PTR = std::intptr_t;
 using UINT_PTR = std::uintptr_t;
 using LONG_PTR = std::intptr_t;
@@ -44,12 +49,13 @@ using COLORREF = std::uint32_t; ///< Red in bits 0-7, green in 8-15, blue in 16-
 /// @}
 
 /// @name Handles
-/// A window handle is the address of its QWidget; nothing mints or recycles handles.
+/// Opaque pointers of distinct types, so that one kind cannot be passed for another; null is no object. Kinds
+/// that no function makes are there for the declarations of ported code.
 /// @{
-using HANDLE = void *;
-using HGLOBAL = void *;
-using HWND = struct HWND__ *;
-using HDC = struct HDC__ *; ///< Points to a KxQtPaintDeviceWrapper.
+using HANDLE = void *;        ///< A file of CreateFileW(), an image of LoadImageW(), or any other object.
+using HGLOBAL = void *;       ///< The address of a KxGlobalMemory.
+using HWND = struct HWND__ *; ///< The address of the window's QWidget; nothing mints or recycles handles.
+using HDC = struct HDC__ *;   ///< The address of a KxQtPaintDeviceWrapper, owned by its CDC.
 using HBITMAP = struct HBITMAP__ *;
 using HBRUSH = struct HBRUSH__ *;
 using HCURSOR = struct HCURSOR__ *;
@@ -57,7 +63,7 @@ using HFONT = struct HFONT__ *;
 using HICON = struct HICON__ *;
 using HINSTANCE = struct HINSTANCE__ *;
 using HMODULE = HINSTANCE;
-using HKEY = struct HKEY__ *;
+using HKEY = struct HKEY__ *; ///< Registry key; CRegKey ignores it.
 using HMENU = struct HMENU__ *;
 using HPALETTE = struct HPALETTE__ *;
 using HPEN = struct HPEN__ *;
@@ -65,118 +71,119 @@ using HRGN = struct HRGN__ *;
 using POSITION = struct POSITION__ *; ///< Opaque iteration position.
 /// @}
 
-/// Timer callback of SetTimer(), which never calls it.
+/// Timer callback: window, message, identifier of the timer, time in milliseconds. SetTimer() never calls it.
 using TIMERPROC = void (*)(HWND, UINT, UINT_PTR, DWORD);
 
-/// @name Records
-/// @{
 /// A point in pixels.
 struct POINT
 {
-    LONG x;
-    LONG y;
+    LONG x; ///< Column.
+    LONG y; ///< Row, counted downwards.
 };
 
-/// A width and height in pixels.
+/// A size in pixels.
 struct SIZE
 {
-    LONG cx;
-    LONG cy;
+    LONG cx; ///< Width.
+    LONG cy; ///< Height.
 };
 
-/// A rectangle. Those filled by this library carry Qt's inclusive right and bottom: right = left + width - 1.
+/// A rectangle in pixels.
+///
+/// Those filled by this library carry Qt's inclusive right and bottom: right = left + width - 1.
 struct RECT
 {
-    LONG left;
-    LONG top;
-    LONG right;
-    LONG bottom;
+    LONG left;   ///< First column.
+    LONG top;    ///< First row.
+    LONG right;  ///< Last column in rectangles of this library; in those of MFC the one behind it.
+    LONG bottom; ///< Last row in rectangles of this library; in those of MFC the one below it.
 };
 
-/// A message of a message loop. No function of this library fills one.
+/// A message of a message loop. No function of this library fills or reads one.
 struct MSG
 {
-    HWND hwnd;
-    UINT message;
-    WPARAM wParam;
-    LPARAM lParam;
-    DWORD time;
-    POINT pt;
+    HWND hwnd;     ///< The window that it is for.
+    UINT message;  ///< Number of the message.
+    WPARAM wParam; ///< First parameter.
+    LPARAM lParam; ///< Second parameter.
+    DWORD time;    ///< When it was posted, in milliseconds.
+    POINT pt;      ///< Where the pointer was then, on the screen.
 };
 
-/// Header of a notification; no control sends any.
+/// Header of a notification. No control sends any.
 struct NMHDR
 {
-    HWND hwndFrom;
-    UINT_PTR idFrom;
-    UINT code;
+    HWND hwndFrom;   ///< The control.
+    UINT_PTR idFrom; ///< The control's identifier.
+    UINT code;       ///< The notification, for example NM_CLICK.
 };
 
-/// Accepted and ignored.
+/// Access rights of a new object. Accepted and ignored.
 struct SECURITY_ATTRIBUTES
 {
-    DWORD nLength;
-    void *lpSecurityDescriptor;
-    BOOL bInheritHandle;
+    DWORD nLength;              ///< Bytes of the record.
+    void *lpSecurityDescriptor; ///< The rights.
+    BOOL bInheritHandle;        ///< Whether child processes get the handle.
 };
 
-/// Size limits, as CWnd::OnGetMinMaxInfo() takes them.
+/// Size limits of a window in pixels, as CWnd::OnGetMinMaxInfo() takes and ignores them. Set minimumSize and
+/// maximumSize of the widget.
 struct MINMAXINFO
 {
-    POINT ptReserved;
-    POINT ptMaxSize;
-    POINT ptMaxPosition;
-    POINT ptMinTrackSize;
-    POINT ptMaxTrackSize;
+    POINT ptReserved;     ///< Not used.
+    POINT ptMaxSize;      ///< Size of the maximised window.
+    POINT ptMaxPosition;  ///< Position of the maximised window.
+    POINT ptMinTrackSize; ///< Smallest size.
+    POINT ptMaxTrackSize; ///< Largest size.
 };
 
-/// Creation data, as CWnd::OnCreate() takes them.
+/// What a window is created from, as CWnd::OnCreate() takes and ignores it.
 struct CREATESTRUCTW
 {
-    void *lpCreateParams;
-    HINSTANCE hInstance;
-    HMENU hMenu;
-    HWND hwndParent;
-    int cy;
-    int cx;
-    int y;
-    int x;
-    LONG style;
-    const wchar_t *lpszName;
-    const wchar_t *lpszClass;
-    DWORD dwExStyle;
+    void *lpCreateParams;     ///< The application's own.
+    HINSTANCE hInstance;      ///< The module.
+    HMENU hMenu;              ///< The menu, or the identifier of a control.
+    HWND hwndParent;          ///< The parent.
+    int cy;                   ///< Height in pixels.
+    int cx;                   ///< Width in pixels.
+    int y;                    ///< Top in pixels.
+    int x;                    ///< Left in pixels.
+    LONG style;               ///< WS_ flags.
+    const wchar_t *lpszName;  ///< The text.
+    const wchar_t *lpszClass; ///< The name of the window class.
+    DWORD dwExStyle;          ///< WS_EX_ flags.
 };
 
-/// A request for help, as CDialog::OnHelpInfo() takes it.
+/// A request for help, as CDialog::OnHelpInfo() takes and ignores it.
 struct HELPINFO
 {
-    UINT cbSize;
-    int iContextType;
-    int iCtrlId;
-    HANDLE hItemHandle;
-    DWORD_PTR dwContextId;
-    POINT MousePos;
+    UINT cbSize;           ///< Bytes of the record.
+    int iContextType;      ///< 1: about a window, 2: about a menu item.
+    int iCtrlId;           ///< Identifier of the control or menu item.
+    HANDLE hItemHandle;    ///< The window or the menu.
+    DWORD_PTR dwContextId; ///< Number of the help text.
+    POINT MousePos;        ///< Where the pointer is on the screen, in pixels.
 };
 
 /// A colour of a palette.
 struct PALETTEENTRY
 {
-    BYTE peRed;
-    BYTE peGreen;
-    BYTE peBlue;
-    BYTE peFlags;
+    BYTE peRed;   ///< Red, 0 to 255.
+    BYTE peGreen; ///< Green, 0 to 255.
+    BYTE peBlue;  ///< Blue, 0 to 255.
+    BYTE peFlags; ///< How the entry is used.
 };
 
-/// A palette, as CreatePalette() takes it.
+/// A palette, as CreatePalette() takes and ignores it.
 struct LOGPALETTE
 {
-    WORD palVersion;
-    WORD palNumEntries;
-    PALETTEENTRY palPalEntry[1];
+    WORD palVersion;             ///< 0x300.
+    WORD palNumEntries;          ///< Number of colours.
+    PALETTEENTRY palPalEntry[1]; ///< The first colour; the others follow it.
 };
-/// @}
 
 /// @name Pointer types
+/// LPSTR and LPCSTR point to narrow text, LPWSTR and LPCWSTR to wide text. tchar.h has LPTSTR and LPCTSTR.
 /// @{
 using LPVOID = void *;
 using LPSTR = char *;
@@ -217,6 +224,8 @@ public:
 };
 
 /// @name Dialog results and predefined control identifiers
+/// Message boxes give IDOK, IDCANCEL, IDYES and IDNO and never the others; dialogs give what they are ended
+/// with, usually IDOK or IDCANCEL.
 /// @{
 constexpr int IDOK = 1;
 constexpr int IDCANCEL = 2;
@@ -228,6 +237,8 @@ constexpr int IDNO = 7;
 /// @}
 
 /// @name Message box types
+/// Buttons and icon of MessageBoxW(), which says what it makes of them: its boxes have no buttons but OK,
+/// Cancel, Yes and No.
 /// @{
 constexpr UINT MB_OK = 0x00;
 constexpr UINT MB_OKCANCEL = 0x01;
@@ -247,6 +258,8 @@ constexpr UINT MB_ICONASTERISK = MB_ICONINFORMATION;
 /// @}
 
 /// @name Messages
+/// Those that SendMessageW() answers itself. From WM_USER on an application numbers messages of its own;
+/// SendMessageW() tells which of these it hands to window objects.
 /// @{
 constexpr UINT BM_GETCHECK = 0x00F0;
 constexpr UINT BM_SETCHECK = 0x00F1;
@@ -260,35 +273,38 @@ constexpr UINT WM_USER = 0x0400;
 /// @}
 
 /// @name Failure values and check states of the standard controls
+/// Members that can fail with something else say so.
 /// @{
-constexpr int CB_ERR = -1;
-constexpr int LB_ERR = -1;
-constexpr UINT BST_UNCHECKED = 0;
-constexpr UINT BST_CHECKED = 1;
-constexpr UINT BST_INDETERMINATE = 2;
+constexpr int CB_ERR = -1;            ///< A CComboBox has no such item.
+constexpr int LB_ERR = -1;            ///< A CListBox has no such item.
+constexpr UINT BST_UNCHECKED = 0;     ///< Button state: not checked.
+constexpr UINT BST_CHECKED = 1;       ///< Button state: checked.
+constexpr UINT BST_INDETERMINATE = 2; ///< Third button state.
 /// @}
 
 /// @name Window styles, show commands, relations and metrics
+/// KxStyleConstants.h has those that no function looks at.
 /// @{
-constexpr DWORD WS_DISABLED = 0x08000000;
-constexpr DWORD WS_VISIBLE = 0x10000000;
-constexpr int SW_HIDE = 0;
-constexpr int SW_SHOWNORMAL = 1;
-constexpr int SW_SHOWMINIMIZED = 2;
-constexpr int SW_SHOWMAXIMIZED = 3;
-constexpr int SW_SHOW = 5;
-constexpr UINT SWP_NOSIZE = 0x0001;
-constexpr UINT SWP_NOMOVE = 0x0002;
-constexpr UINT SWP_NOZORDER = 0x0004;
-constexpr UINT GW_HWNDNEXT = 2;
-constexpr UINT GW_CHILD = 5;
-constexpr int GWL_ID = -12;
-constexpr int SM_CXFULLSCREEN = 16;
-constexpr int SM_CYFULLSCREEN = 17;
+constexpr DWORD WS_DISABLED = 0x08000000; ///< What CWnd::ModifyStyle() enables and disables with.
+constexpr DWORD WS_VISIBLE = 0x10000000;  ///< Ignored: CWnd::ShowWindow() shows and hides.
+constexpr int SW_HIDE = 0;                ///< CWnd::ShowWindow() hides the window.
+constexpr int SW_SHOWNORMAL = 1;          ///< CWnd::ShowWindow() shows the window.
+constexpr int SW_SHOWMINIMIZED = 2;       ///< CWnd::ShowWindow() shows the window as it was, not minimised.
+constexpr int SW_SHOWMAXIMIZED = 3;       ///< CWnd::ShowWindow() shows the window as it was, not maximised.
+constexpr int SW_SHOW = 5;                ///< CWnd::ShowWindow() shows the window.
+constexpr UINT SWP_NOSIZE = 0x0001;       ///< Ignored by CWnd::SetWindowPos(), which never resizes.
+constexpr UINT SWP_NOMOVE = 0x0002;       ///< Ignored by CWnd::SetWindowPos().
+constexpr UINT SWP_NOZORDER = 0x0004;     ///< Ignored by CWnd::SetWindowPos(), which never restacks.
+constexpr UINT GW_HWNDNEXT = 2;           ///< For CWnd::GetNextWindow(): the next control.
+constexpr UINT GW_CHILD = 5;              ///< For CWnd::GetWindow(): the first control.
+constexpr int GWL_ID = -12;               ///< For GetWindowLongPtrW(): the control's identifier.
+constexpr int SM_CXFULLSCREEN = 16;       ///< For GetSystemMetrics(): width of the screen in pixels.
+constexpr int SM_CYFULLSCREEN = 17;       ///< For GetSystemMetrics(): height of the screen in pixels.
 /// @}
 
 /// @name Virtual keys
-/// Letters and digits are their own ASCII codes.
+/// What GetKeyState() takes, KxMessageConstants.h has more. Letters and digits are their own ASCII codes. The
+/// numeric keypad and the function keys are numbered without a gap.
 /// @{
 constexpr int VK_LBUTTON = 0x01;
 constexpr int VK_RBUTTON = 0x02;
@@ -341,15 +357,17 @@ constexpr int VK_RMENU = 0xA5;
 /// @}
 
 /// @name Loading images
+/// Kinds and flags of LoadImageW().
 /// @{
 constexpr UINT IMAGE_BITMAP = 0;
 constexpr UINT IMAGE_ICON = 1;
-constexpr UINT IMAGE_CURSOR = 2;
-constexpr UINT LR_DEFAULTCOLOR = 0x0000;
-constexpr UINT LR_LOADFROMFILE = 0x0010;
+constexpr UINT IMAGE_CURSOR = 2;         ///< Refused: no cursors are loaded.
+constexpr UINT LR_DEFAULTCOLOR = 0x0000; ///< No flags.
+constexpr UINT LR_LOADFROMFILE = 0x0010; ///< From a file in place of a resource.
 /// @}
 
 /// @name File access, creation and attributes
+/// What CreateFileW() takes. It ignores the sharing modes, attributes and flags.
 /// @{
 constexpr DWORD GENERIC_READ = 0x80000000;
 constexpr DWORD GENERIC_WRITE = 0x40000000;
@@ -376,6 +394,11 @@ inline const HKEY HKEY_CLASSES_ROOT = reinterpret_cast<HKEY>(std::uintptr_t{0x80
 inline const HKEY HKEY_CURRENT_USER = reinterpret_cast<HKEY>(std::uintptr_t{0x80000001});
 inline const HKEY HKEY_LOCAL_MACHINE = reinterpret_cast<HKEY>(std::uintptr_t{0x80000002});
 inline const HKEY HKEY_USERS = reinterpret_cast<HKEY>(std::uintptr_t{0x80000003});
+/// @}
+
+/// @name Access to registry keys
+/// CRegKey ignores it: the user's own settings can be read and written.
+/// @{
 constexpr DWORD KEY_READ = 0x00020019;
 constexpr DWORD KEY_WRITE = 0x00020006;
 constexpr DWORD KEY_ALL_ACCESS = 0x000F003F;

@@ -1,5 +1,11 @@
 /// @file KxWindows.h
 /// @brief CWnd, the window object, and the registry of window handles.
+///
+/// The application makes its widgets with Qt. It binds a window object to each one that ported code works
+/// with (CWnd::Attach(), CWnd::SubclassDlgItem(), DDX_Control()) and tells a dialog its controls
+/// (CWnd::SetDlgItem()). A handle is the address of the widget, converted to QWidget first:
+/// `reinterpret_cast<HWND>(static_cast<QWidget *>(&form))`. The control classes of KxControls.h and the
+/// dialogs of KxDialogs.h derive from CWnd; KxUser32.h has the functions that take handles.
 #pragma once
 
 #include "KxGeometry.h"
@@ -79,7 +85,8 @@ public:
     /// object registered for @p h becomes unbound; if it is a wrapper of the library it is deleted and this
     /// object takes its registration, while an application's object keeps its registration and this object
     /// gets none.
-    /// @param h the address of a living QWidget.
+    /// @param h the address of a living QWidget. A number up to 0xFFFF is none: this object is then
+    /// registered under it and stays unbound.
     void SetHandle(HWND h);
 
     /// SetHandle() in MFC's shape.
@@ -102,43 +109,52 @@ public:
     /// Binds this object to the child that @p pParent registered under @p nID, replacing the library's
     /// wrapper of that child, and calls PreSubclassWindow().
     /// @return TRUE when the child was found, and at once when this object has a handle already; FALSE when
-    /// @p pParent is null or has no such child.
+    /// @p pParent is null or has no such child, and when Qt has destroyed the child's widget.
     BOOL SubclassDlgItem(UINT nID, CWnd *pParent);
     /// @}
 
-    /// @name Lookup
+    /// @name Objects of handles
     /// @{
 
     /// @return the object registered for @p h; null when there is none. Never makes a wrapper, unlike MFC.
     static CWnd *FromHandle(HWND h);
     /// Same as FromHandle().
     static CWnd *FromHandlePermanent(HWND h);
+    /// @}
+
+    /// @name Handle, parent and controls
+    /// @{
 
     /// @return the handle while this object is bound, else null.
     operator HWND() const;
 
     /// @return the logical parent; unbound: null.
     CWnd *GetParent() const;
-    /// Replaces the logical parent.
+    /// Makes @p pWndNewParent, which is not owned and may be null, the logical parent. The widget's Qt parent
+    /// stays.
     /// @return the former one; unbound: null, and nothing is stored.
     CWnd *SetParent(CWnd *pWndNewParent);
 
-    /// Sets this window's control identifier; unbound: nothing.
+    /// Sets this window's control identifier to @p nID; unbound: nothing.
     void SetCtrlID(int nID);
     /// @return this window's control identifier, -1 if none was set; unbound: 0.
     int GetDlgCtrlID() const;
 
     /// Registers @p h as this window's control @p nID. Ported dialogs tell their controls this way.
     ///
-    /// An identifier keeps the first handle registered under it.
+    /// An identifier keeps the first handle registered under it. Qt may give the address of a destroyed
+    /// widget to a new one: an object that was left behind under this handle is then bound to the new widget,
+    /// which it does not delete, whatever SetAutoDelete() said.
+    /// @param nID the control's identifier.
     /// @param h the address of a living QWidget, or null.
     /// @return non-zero; unbound: 0.
     BOOL SetDlgItem(int nID, HWND h);
 
     /// Finds the object of control @p nID, making a wrapper the first time a handle has none, and sets its
     /// parent and control identifier.
-    /// @return the object; for an unknown identifier one shared unbound object, so that chained calls do
-    /// nothing; unbound: null. The caller owns none of them.
+    /// @return the object; for an unknown identifier, and for a control without an object whose handle is
+    /// null or whose widget is gone, one shared unbound object, so that chained calls do nothing; unbound:
+    /// null. The caller owns none of them.
     CWnd *GetDlgItem(int nID) const;
     /// GetDlgItem() for its effects only: @p phWnd is not written, unlike MFC.
     void GetDlgItem(int nID, HWND *phWnd) const;
@@ -146,25 +162,26 @@ public:
     /// @return GetDlgItem() of the registered identifier that follows @p nID; null when none does; unbound:
     /// null.
     CWnd *GetNextCWndFromID(int nID) const;
-    /// @return the parent's next control for GW_HWNDNEXT; null for any other flag, without a parent, and
-    /// unbound.
+    /// @return the parent's next control, by ascending identifiers, for GW_HWNDNEXT; null for any other @p
+    /// nFlag, without a parent, and unbound.
     CWnd *GetNextWindow(UINT nFlag = GW_HWNDNEXT) const;
-    /// @return the control with the smallest identifier for GW_CHILD; null for any other command, without
+    /// @return the control with the smallest identifier for GW_CHILD; null for any other @p nCmd, without
     /// controls, and unbound.
     CWnd *GetWindow(UINT nCmd) const;
-    /// @return GetDlgItem(@p nID); grandchildren are not searched, unlike MFC. Unbound: null.
+    /// @return GetDlgItem() of @p nID; grandchildren are not searched, unlike MFC, and @p bOnlyPerm is
+    /// ignored. Unbound: null.
     CWnd *GetDescendantWindow(int nID, BOOL bOnlyPerm = FALSE) const;
     /// @}
 
     /// @name Window text
     /// @{
 
-    /// @return length in characters of the text that GetWindowTextW() reads; unbound: 0.
+    /// @return the length in characters of the text that GetWindowTextW() reads; unbound: 0.
     int GetWindowTextLengthW();
-    /// Reads a control's text. @p rString is left as it was when the identifier is unknown.
+    /// Reads the text of control @p nID. @p rString is left as it was when the identifier is unknown.
     /// @return the length of @p rString; unbound: 0.
     int GetDlgItemTextW(int nID, CString &rString) const;
-    /// Sets a control's text; unknown identifier or unbound: nothing.
+    /// Sets the text of control @p nID; null @p lpszString, unknown identifier or unbound: nothing.
     void SetDlgItemTextW(int nID, const wchar_t *lpszString);
     /// @}
 
@@ -176,28 +193,33 @@ public:
     void GetWindowRect(RECT *lpRect) const;
     /// Maps a point from the widget to the screen, in pixels.
     void ClientToScreen(POINT *lpPoint) const;
-    /// Moves the widget to (x, y) in its parent's coordinates, in pixels. The size is not changed, unlike
-    /// MFC.
+    /// Moves the widget to (x, y) in its parent's coordinates, in pixels. @p nWidth, @p nHeight and @p
+    /// bRepaint are ignored: the size stays, unlike MFC.
     void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
     /// Moves the widget to (x, y) unless @p cx and @p cy are both positive; then nothing happens. Neither the
-    /// size nor the stacking order changes, and SWP_NOMOVE is not honoured, unlike Win32.
+    /// size nor the stacking order changes, and @p nFlags is ignored, SWP_NOMOVE included, unlike Win32.
     /// @return TRUE.
     BOOL SetWindowPos(const CWnd *pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
     /// @}
 
-    /// @name Showing, enabling, focus
+    /// @name Showing and enabling
     /// @{
 
-    /// Hides the widget for SW_HIDE and shows it for every other command.
+    /// Hides the widget when @p nCmdShow is SW_HIDE and shows it for every other command.
     /// @return TRUE, not the former state as in Win32; unbound: 0.
     BOOL ShowWindow(int nCmdShow);
     /// @return whether the widget is visible; unbound: 0.
     BOOL IsWindowVisible() const;
     /// @return whether the widget is enabled; unbound: TRUE.
     BOOL IsWindowEnabled() const;
-    /// Enables or disables the widget.
+    /// Enables the widget unless @p bEnable is 0, else disables it.
     /// @return whether the widget was enabled before, the opposite of Win32; unbound: TRUE.
     BOOL EnableWindow(BOOL bEnable = TRUE);
+    /// @}
+
+    /// @name Focus
+    /// @{
+
     /// @return the object registered for the widget that has the focus, or null.
     static CWnd *GetFocus();
     /// @}
@@ -206,7 +228,7 @@ public:
     /// @{
 
     /// Enables (WS_DISABLED removed, nothing added) or disables (WS_DISABLED added, nothing removed) the
-    /// widget. Every other combination changes nothing.
+    /// widget. Every other combination changes nothing; @p nFlags is ignored.
     /// @return TRUE; unbound: FALSE.
     BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     /// @}
@@ -214,9 +236,9 @@ public:
     /// @name Painting and the device context
     /// @{
 
-    /// Schedules a repaint of the whole widget.
+    /// Schedules a repaint of the whole widget; @p bErase is ignored.
     void Invalidate(BOOL bErase = TRUE);
-    /// Schedules a repaint of the whole widget; the rectangle is ignored.
+    /// Invalidate(): the whole widget is repainted and the rectangle ignored, unlike MFC.
     void InvalidateRect(const RECT *lpRect, BOOL bErase = TRUE);
     /// @return this window's one device context, made on the first call and owned by the window; unbound:
     /// null.
@@ -229,7 +251,8 @@ public:
 
     /// @return 1 when button @p nIDButton is checked, else 0; 0 when there is no such button.
     UINT IsDlgButtonChecked(int nIDButton) const;
-    /// Checks the button when @p nCheck is not 0, so BST_INDETERMINATE checks as well.
+    /// Checks button @p nIDButton when @p nCheck is not 0, so BST_INDETERMINATE checks as well; else unchecks
+    /// it.
     void CheckDlgButton(int nIDButton, UINT nCheck);
     /// Unchecks every button from @p nIDFirst to @p nIDLast, both included, and checks @p nIDCheckButton if
     /// it is among them.
@@ -249,6 +272,7 @@ public:
     /// @return FALSE when the exchange called CDataExchange::Fail(), else TRUE.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
     /// The free MessageBoxW(); this window does not become the box's owner.
+    /// @return as the free MessageBoxW(), whether bound or not; 0 for a null object.
     int MessageBoxW(const wchar_t *lpszText, const wchar_t *lpszCaption = nullptr, UINT nType = MB_OK);
     /// @}
 
@@ -257,7 +281,8 @@ public:
     /// @{
 
     /// Takes note of a logical parent; creates no widget, unlike MFC.
-    /// @param pParent the new logical parent, recorded when this object is bound; every other argument is
+    ///
+    /// @p pParent, which is not owned, is recorded when this object is bound. The other arguments are
     /// ignored.
     /// @return TRUE, bound or not.
     virtual BOOL Create(const wchar_t *lpszClassName, const wchar_t *lpszWindowName, DWORD dwStyle,
@@ -292,6 +317,7 @@ public:
     virtual void GetWindowTextW(CString &rString);
     /// Reads the text into a buffer: at most @p nMaxCount - 1 characters, always ended by a null at @p
     /// nMaxCount - 1, with nulls between the text's end and there.
+    /// @param lpszBuffer receives the text; owned by the caller.
     /// @param nMaxCount size of @p lpszBuffer in characters; below 1: nothing is written.
     /// @return the length of what is in the buffer now; 0 when nothing was written; unbound: 0.
     virtual int GetWindowTextW(wchar_t *lpszBuffer, int nMaxCount);

@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that the scripts need; does nothing when they are all there.
-# Usage: scripts/install-deps.sh [demo|wayland|test]      (default: test, which includes demo)
+# Usage: scripts/install-deps.sh [demo|wayland|test|release]      (default: test, which includes demo)
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 demo_packages=(g++ cmake ninja-build ccache qtbase5-dev libqt5gui5 binutils-mingw-w64-x86-64 fonts-dejavu-core)
 wayland_packages=("${demo_packages[@]}" qtwayland5)
 test_packages=("${demo_packages[@]}"
     clang lld llvm libclang-rt-14-dev clang-format clang-tidy
-    xvfb openbox x11-utils poppler-utils libbenchmark-dev doxygen)
+    xvfb openbox x11-utils poppler-utils libbenchmark-dev doxygen
+    pkg-config dpkg-dev)
+release_packages=("${demo_packages[@]}" dpkg-dev doxygen abigail-tools)
 
 missing_packages()
 {
@@ -21,7 +23,8 @@ case ${1:-test} in
     demo) wanted=("${demo_packages[@]}") ;;
     wayland) wanted=("${wayland_packages[@]}") ;;
     test) wanted=("${test_packages[@]}") ;;
-    *) fail "unknown set of packages \"$1\": use demo, wayland or test" ;;
+    release) wanted=("${release_packages[@]}") ;;
+    *) fail "unknown set of packages \"$1\": use demo, wayland, test or release" ;;
 esac
 
 command -v apt-get >/dev/null || fail "this is no Debian system; install the counterparts of: ${wanted[*]}"

@@ -31,10 +31,11 @@ build_and_test()
     total=$((total + ${summary##* }))
 }
 
-# Uses the compile commands of the clang build. Generated sources are not ours to judge.
+# Uses the compile commands of the clang build. Generated sources are not ours to judge, and those from before a port
+# are not compiled.
 check_sources()
 {
-    find examples platform source -name '*.cpp' -print0 |
+    find examples platform source -name '*.cpp' -not -path 'examples/converter/windows/*' -print0 |
         xargs -0 -n 1 -P "$(nproc)" clang-tidy --quiet -p "$project_dir/build/clang"
 }
 

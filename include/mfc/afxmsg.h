@@ -7,12 +7,15 @@
 
 #include <type_traits>
 
+/// Stands for nothing.
 #define DECLARE_MESSAGE_MAP()
 /// Begins a declaration that END_MESSAGE_MAP() completes, so that a forgotten end does not compile.
 #define BEGIN_MESSAGE_MAP(className, baseName) static_assert(std::is_base_of_v<baseName, className>
+/// Ends what BEGIN_MESSAGE_MAP() began: the class must derive from its base, else it does not compile.
 #define END_MESSAGE_MAP() , "the message map's class does not derive from its base");
 
 /// @name Entries
+/// They stand for nothing, and the handlers that they name need not exist: no message reaches a handler.
 /// @{
 #define ON_BN_CLICKED(what, handler)
 #define ON_BN_DOUBLECLICKED(what, handler)

@@ -8,6 +8,7 @@ constexpr int IDC_STATIC = -1;
 #endif
 
 /// @name Commands
+/// Identifiers of menu items and actions, for ported code that names them. The library sends no commands.
 /// @{
 constexpr int ID_FILE_NEW = 0xE100;
 constexpr int ID_FILE_OPEN = 0xE101;

@@ -9,6 +9,7 @@
 #include <KxMFCWrapper.h>
 
 /// @name Records under their short names
+/// The same records, and pointers to them.
 /// @{
 using LOGFONT = LOGFONTW;
 using LPLOGFONT = LOGFONTW *;
@@ -17,6 +18,8 @@ using LPTEXTMETRIC = TEXTMETRICW *;
 /// @}
 
 /// @name The W functions of windows and drawing under their short names
+/// As macros they rename members and free functions alike, also those of other libraries that are included
+/// later.
 /// @{
 #define CreateFont CreateFontW
 #define ExtractIcon ExtractIconW

@@ -7,6 +7,7 @@
 #include <KxControls.h>
 
 /// @name Records under their short names
+/// The same records, and pointers to them.
 /// @{
 using HDITEM = HDITEMW;
 using LPHDITEM = HDITEMW *;

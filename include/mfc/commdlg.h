@@ -6,5 +6,9 @@
 
 #include <KxDialogs.h>
 
+/// @name Records under their short names
+/// The same record, and pointers to it.
+/// @{
 using OPENFILENAME = OPENFILENAMEW;
 using LPOPENFILENAME = OPENFILENAMEW *;
+/// @}

@@ -8,12 +8,19 @@
 #include <cwchar>
 #include <cwctype>
 
+/// @name Wide texts
+/// There is no build with narrow TCHARs. One element has 32 bits.
+/// @{
 using TCHAR = wchar_t;
 using LPTSTR = wchar_t *;
 using LPCTSTR = const wchar_t *;
 using PTSTR = wchar_t *;
 using PCTSTR = const wchar_t *;
+/// @}
 
+/// @name Wide literals
+/// They make a wide literal, such as L"text", of a narrow one.
+/// @{
 #ifndef _T
 #define _T(text) L##text
 #endif
@@ -23,12 +30,16 @@ using PCTSTR = const wchar_t *;
 #ifndef TEXT
 #define TEXT(text) L##text
 #endif
+/// @}
 
 /// The number of elements of an array.
 #ifndef _countof
 #define _countof(array) (sizeof(array) / sizeof((array)[0]))
 #endif
 
+/// @name Functions on texts
+/// Other names of the wide-character functions of the C library and of KxPlatform.h.
+/// @{
 #define _tcslen wcslen
 #define _tcscpy wcscpy
 #define _tcsncpy wcsncpy
@@ -54,3 +65,4 @@ using PCTSTR = const wchar_t *;
 #define _istdigit iswdigit
 #define _istalnum iswalnum
 #define _istspace iswspace
+/// @}

@@ -13,7 +13,8 @@
 #include <KxUser32.h>
 #include <KxWinTypes.h>
 
-/// @name Calling conventions and declaration attributes, which this platform does not have
+/// @name Calling conventions and declaration attributes
+/// This platform has none: they stand for nothing, CONST for const.
 /// @{
 #ifndef CALLBACK
 #define CALLBACK
@@ -42,6 +43,8 @@
 /// @}
 
 /// @name More names of scalar and pointer types
+/// Win32's other names of the types in KxWinTypes.h. What begins with LP or P is a pointer, with LPC or PC a
+/// pointer to constants.
 /// @{
 using VOID = void;
 using CHAR = char;
@@ -75,6 +78,7 @@ using LPHELPINFO = HELPINFO *;
 
 /// Room for a path in sources that use a fixed buffer. Longer paths exist on this platform.
 constexpr int MAX_PATH = 260;
+/// The same under the name of the C run-time library.
 constexpr int _MAX_PATH = MAX_PATH;
 
 /// @name Parts of values
@@ -104,13 +108,13 @@ constexpr BYTE HIBYTE(DWORD_PTR value)
     return BYTE(value >> 8 & 0xFF);
 }
 
-/// @return the 16 bits of both bytes.
+/// @return the 16 bits of both bytes, @p low in bits 0 to 7.
 constexpr WORD MAKEWORD(DWORD_PTR low, DWORD_PTR high)
 {
     return WORD(LOBYTE(low) | LOBYTE(high) << 8);
 }
 
-/// @return the 32 bits of both words.
+/// @return the 32 bits of both words, @p low in bits 0 to 15.
 constexpr LONG MAKELONG(DWORD_PTR low, DWORD_PTR high)
 {
     return LONG(DWORD(LOWORD(low)) | DWORD(LOWORD(high)) << 16);
@@ -142,7 +146,8 @@ inline bool IS_INTRESOURCE(const void *name)
 /// @}
 
 /// @name The W functions under their short names
-/// Members and free functions alike.
+/// As macros they rename members and free functions alike, also those of other libraries that are included
+/// later.
 /// @{
 #define MAKEINTRESOURCE MAKEINTRESOURCEW
 #define CreateFile CreateFileW

@@ -11,12 +11,14 @@
 class KX_PLATFORM_EXPORT KxEmbeddedResources
 {
 public:
-    /// @param begin the image, in the .res format, inside of the program or shared library that it belongs to.
-    /// It is not copied.
+    /// Makes the image known.
+    /// @param begin the image, in the .res format, inside of the program or shared library that it belongs
+    /// to. It is not copied.
     /// @param end the address behind it.
     KxEmbeddedResources(const unsigned char *begin, const unsigned char *end);
     KxEmbeddedResources(const KxEmbeddedResources &) = delete;
     KxEmbeddedResources &operator=(const KxEmbeddedResources &) = delete;
+    /// Takes the image back: its strings and pictures are no longer found.
     ~KxEmbeddedResources();
 
 private:

@@ -4,6 +4,9 @@
 /// File names are UTF-32 texts and reach the file system as QFile::encodeName() encodes them. A name that
 /// holds something other than Unicode code points, or that has no encoding, names no file: the function
 /// fails. A null argument gives the failure value; nothing here throws.
+///
+/// A platform library that takes the place of this one (see docs/platform.md) defines all that is declared here and in
+/// KxEmbeddedResources.h.
 #pragma once
 
 #include "KxPlatformExport.h"
@@ -15,11 +18,11 @@
 
 /// Copies the string resource @p id of a module into a buffer.
 ///
-/// Of several languages the wanted one (see SetThreadUILanguage()) is taken, then another variant of it, then the
-/// neutral one, then the first. Unlike Win32, a string that the language's table lacks is taken from the next one
-/// in that order.
-/// @param module what LoadLibraryW() gave, not yet released, or null for the program itself; any other value is
-/// a module without resources.
+/// Of several languages the wanted one (see SetThreadUILanguage()) is taken, then another variant of it, then
+/// the neutral one, then the first. Unlike Win32, a string that the language's table lacks is taken from the
+/// next one in that order.
+/// @param module what LoadLibraryW() gave, not yet released, or null for the program itself; any other value
+/// is a module without resources.
 /// @param id the string's identifier, at most 65535.
 /// @param buffer receives the text, cut to @p bufferMax - 1 characters and terminated. A character beyond 16
 /// bits counts as one.
@@ -31,10 +34,10 @@ KX_PLATFORM_EXPORT int LoadStringW(HINSTANCE module, UINT id, wchar_t *buffer, i
 
 /// Chooses the language in which strings and images are loaded from now on, in all threads.
 ///
-/// Without a call it is that in which QLocale() wants texts: as it was when the first resource was loaded, and as it
-/// is then once an application object was made or destroyed.
-/// @param language a language identifier; 0 takes the language of QLocale() as it is now, which is how a change of
-/// the default locale is made known.
+/// Without a call it is that in which QLocale() wants texts: as it was when the first resource was loaded,
+/// and as it is then once an application object was made or destroyed.
+/// @param language a language identifier; 0 takes the language of QLocale() as it is now, which is how a
+/// change of the default locale is made known.
 /// @return the language in effect; 0 when QLocale() has one that Win32 does not number.
 KX_PLATFORM_EXPORT LANGID SetThreadUILanguage(LANGID language);
 
@@ -44,8 +47,8 @@ KX_PLATFORM_EXPORT LANGID SetThreadUILanguage(LANGID language);
 /// transparency ARGB32. Unlike Win32, cursors are not loaded, and an icon's handle is deleted like that of a
 /// bitmap.
 /// @param module as in LoadStringW(); ignored with LR_LOADFROMFILE.
-/// @param name the resource's name, in any case, "#" with its number, or MAKEINTRESOURCEW() of its number; the
-/// file's name with LR_LOADFROMFILE.
+/// @param name the resource's name, in any case, "#" with its number, or MAKEINTRESOURCEW() of its number;
+/// the file's name with LR_LOADFROMFILE.
 /// @param type IMAGE_BITMAP or IMAGE_ICON; others are refused.
 /// @param cx wanted width in pixels, to which the image is scaled; 0 keeps its own. Of an icon's images the
 /// one of the nearest size is taken, or the first when both sizes are 0.
@@ -57,7 +60,8 @@ KX_PLATFORM_EXPORT LANGID SetThreadUILanguage(LANGID language);
 KX_PLATFORM_EXPORT HANDLE LoadImageW(HINSTANCE module, const wchar_t *name, UINT type, int cx, int cy,
                                      UINT flags);
 
-/// @return the 16-bit number of a resource in place of the address of its name.
+/// @return what stands for a resource's name in LoadImageW(): the low 16 bits of @p id, in place of an
+/// address.
 inline const wchar_t *MAKEINTRESOURCEW(int id)
 {
     return reinterpret_cast<const wchar_t *>(std::uintptr_t(WORD(id)));
@@ -83,12 +87,15 @@ KX_PLATFORM_EXPORT BOOL FreeLibrary(HINSTANCE module);
 /// Opens or creates a file as a C stream.
 ///
 /// The handle is the stream (`FILE *`), so that it can be read with the C library or given to CFile(handle).
-/// Sharing modes, security attributes, flags and the template are ignored.
 /// @param name the file; directories are refused.
 /// @param access GENERIC_READ, GENERIC_WRITE or both; others are refused.
+/// @param shareMode ignored.
+/// @param security ignored.
 /// @param disposition CREATE_NEW fails when the file exists; CREATE_ALWAYS creates or empties it;
 /// OPEN_EXISTING fails when it does not exist; OPEN_ALWAYS creates it when needed; TRUNCATE_EXISTING empties
 /// it, fails when it does not exist and needs GENERIC_WRITE. Others are refused.
+/// @param flags ignored.
+/// @param templateFile ignored.
 /// @return the stream, owned by the caller and released with CloseHandle() or fclose(); INVALID_HANDLE_VALUE
 /// on failure.
 KX_PLATFORM_EXPORT HANDLE CreateFileW(const wchar_t *name, DWORD access, DWORD shareMode,
@@ -111,6 +118,7 @@ KX_PLATFORM_EXPORT DWORD GetFileAttributesW(const wchar_t *name);
 
 /// Copies the absolute path of the current directory, without a trailing slash except for the root.
 /// @param bufferMax room in @p buffer, in characters.
+/// @param buffer receives the path; null asks for the room needed.
 /// @return the length without the terminator; when the room does not suffice or @p buffer is null, the room
 /// needed with the terminator, and nothing is written; 0 when there is no current directory, or when its name
 /// is no text.
@@ -146,8 +154,11 @@ KX_PLATFORM_EXPORT wchar_t *_wcsinc(const wchar_t *current);
 /// @return the character at @p current; 0 for null.
 KX_PLATFORM_EXPORT unsigned int _wcsnextc(const wchar_t *current);
 
-/// Copies @p count bytes when they fit. The blocks must not overlap.
+/// Copies bytes when they fit. The blocks must not overlap.
+/// @param dest receives the bytes.
 /// @param destSize room in @p dest, in bytes.
+/// @param src the bytes.
+/// @param count their number.
 /// @return 0 on success, also when @p count is 0; EINVAL when @p dest is null; EINVAL with all of @p dest
 /// zeroed when @p src is null; ERANGE with all of @p dest zeroed when @p count exceeds @p destSize.
 KX_PLATFORM_EXPORT int memcpy_s(void *dest, std::size_t destSize, const void *src, std::size_t count);

@@ -1,7 +1,11 @@
 /// @file KxPlatformServices.h
 /// @brief The platform services: keyboard, images, GDI objects and path correction.
 ///
-/// A built-in set serves unless setPlatformServices() installs another. All calls come on the GUI thread.
+/// A built-in set serves unless setPlatformServices() installs another. All calls come on the GUI thread. A set of
+/// your own may hand out services of the set that platformServices() gave before, and need only replace some.
+///
+/// A platform library that takes the place of this one (see docs/platform.md) defines all that is declared here,
+/// the destructors included.
 #pragma once
 
 #include "KxPlatformExport.h"
@@ -17,11 +21,14 @@ class QPaintDevice;
 class KX_PLATFORM_EXPORT KxKeyboardService
 {
 public:
+    /// For subclasses.
     KxKeyboardService() = default;
     KxKeyboardService(const KxKeyboardService &) = delete;
     KxKeyboardService &operator=(const KxKeyboardService &) = delete;
+    /// Destroys the service; who installed it owns it.
     virtual ~KxKeyboardService();
 
+    /// Tells the state of a key or mouse button.
     /// @param virtualKey a VK_ code, or the ASCII code of a digit or capital letter.
     /// @return a value whose low 16 bits are Win32's key state: 0x8000 while the key is down, plus 1 while a
     /// lock key is toggled on (where the window system tells it); 0 for an unknown key.
@@ -32,11 +39,14 @@ public:
 class KX_PLATFORM_EXPORT KxImageService
 {
 public:
+    /// For subclasses.
     KxImageService() = default;
     KxImageService(const KxImageService &) = delete;
     KxImageService &operator=(const KxImageService &) = delete;
+    /// Destroys the service; who installed it owns it.
     virtual ~KxImageService();
 
+    /// Gives the picture behind a handle.
     /// @param handle what LoadImageW() or KxGdiObjectService::createBitmap() gave; any other value is
     /// allowed.
     /// @return a copy of the image as it is now; a null QImage when the handle is of no live image.
@@ -48,20 +58,25 @@ public:
 class KX_PLATFORM_EXPORT KxGdiObjectService
 {
 public:
+    /// For subclasses.
     KxGdiObjectService() = default;
     KxGdiObjectService(const KxGdiObjectService &) = delete;
     KxGdiObjectService &operator=(const KxGdiObjectService &) = delete;
+    /// Destroys the service; who installed it owns it.
     virtual ~KxGdiObjectService();
 
+    /// Gives access to a bitmap for painting.
     /// @param handle the handle of a bitmap.
     /// @return the device to paint on, owned by the bitmap and gone with it; null when there is no such
     /// bitmap.
     virtual QPaintDevice *bitmapDevice(HANDLE handle) = 0;
 
+    /// Gives the picture of a bitmap.
     /// @param handle the handle of a bitmap.
     /// @return a copy of the bitmap as it is now; a null QImage when there is no such bitmap.
     virtual QImage bitmapImage(HANDLE handle) = 0;
 
+    /// Gives the colour of a brush.
     /// @param handle the handle of a brush.
     /// @return its colour, all 32 bits as they were given; nothing when there is no such brush.
     virtual std::optional<COLORREF> brushColor(HANDLE handle) = 0;
@@ -86,9 +101,11 @@ public:
 class KX_PLATFORM_EXPORT KxPathCorrectionService
 {
 public:
+    /// For subclasses.
     KxPathCorrectionService() = default;
     KxPathCorrectionService(const KxPathCorrectionService &) = delete;
     KxPathCorrectionService &operator=(const KxPathCorrectionService &) = delete;
+    /// Destroys the service; who installed it owns it.
     virtual ~KxPathCorrectionService();
 
     /// Spells a path as the file system has it. A path that exists stays as it is; otherwise each component
@@ -99,13 +116,16 @@ public:
     virtual bool correct(const std::wstring &path, std::wstring &corrected) = 0;
 };
 
-/// The set of services.
+/// The set of services. Each member gives the same service on each call: the handles of bitmaps and brushes belong
+/// to the one that made them.
 class KX_PLATFORM_EXPORT KxPlatformServices
 {
 public:
+    /// For subclasses.
     KxPlatformServices() = default;
     KxPlatformServices(const KxPlatformServices &) = delete;
     KxPlatformServices &operator=(const KxPlatformServices &) = delete;
+    /// Destroys the service; who installed it owns it.
     virtual ~KxPlatformServices();
 
     virtual KxKeyboardService &keyboard() = 0;             ///< @return the keyboard service.

@@ -56,12 +56,11 @@ int CListBox::SetCurSel(int nSelect)
 
 int CListBox::AddString(const wchar_t *lpszItem)
 {
-    auto *list = boundWidget<QListWidget>(this);
+    const QPointer<QListWidget> list = boundWidget<QListWidget>(this);
     if (!list)
         return withoutWidget<int>(this);
-    const int row = list->count();
     list->addItem(toQString(lpszItem).simplified());
-    return row;
+    return list ? list->count() - 1 : LB_ERR;
 }
 
 int CListBox::InsertString(int nIndex, const wchar_t *lpszItem)

@@ -28,12 +28,19 @@ static QPolygonF cut(const QPolygonF &polygon, const QRectF &rect)
     return cut(cut(columns, {0, -1}, -rect.top()), {0, 1}, rect.bottom());
 }
 
-QRegion clipRegion(const POINT *points, const UINT *counts, UINT n, QSize device)
+static QRectF upTo(int reach)
 {
-    // Qt takes a division by zero or all memory for a region that is too large, and seconds well before. The
-    // margin is for devices that take the place of this one and for moved origins.
+    return {QPointF(-reach, -reach), QPointF(reach, reach)};
+}
+
+QRegion clipRegion(const POINT *points, const UINT *counts, UINT n, const QRectF &visible)
+{
+    // Qt takes a division by zero or all memory for a region that is too large, and seconds well before. What is
+    // near may be seen on devices that take the place of this one and with other origins.
+    constexpr int near = 8192;
     constexpr int margin = 4096;
-    const QRectF reach = QRectF(QPointF(), device).adjusted(-margin, -margin, margin, margin);
+    constexpr int most = 32768;
+    const QRectF reach = (visible.adjusted(-margin, -margin, margin, margin) | upTo(near)) & upTo(most);
     QPainterPath path;
     QRectF box;
     for (UINT i = 0; points && counts && i < n; ++i) {
@@ -45,5 +52,5 @@ QRegion clipRegion(const POINT *points, const UINT *counts, UINT n, QSize device
     const QRegion region(path.toFillPolygon().toPolygon(), Qt::OddEvenFill);
     // An empty region would remove clipping, but polygons out of reach hide all.
     const bool isOutOfReach = region.isEmpty() && !box.isEmpty() && !reach.contains(box);
-    return isOutOfReach ? QRegion(-margin, -margin, 1, 1) : region;
+    return isOutOfReach ? QRegion(-2 * most, -2 * most, 1, 1) : region;
 }

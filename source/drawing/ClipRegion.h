@@ -4,8 +4,9 @@
 
 #include "KxGdiTypes.h"
 
+#include <QRectF>
 #include <QRegion>
-#include <QSize>
 
-/// The odd-even area of @p n polygons, on a device of a size and far around it. Empty when they have no area.
-QRegion clipRegion(const POINT *points, const UINT *counts, UINT n, QSize device);
+/// The odd-even area of @p n polygons, in the part of the plane that a device shows and far around it. Empty when
+/// they have no area.
+QRegion clipRegion(const POINT *points, const UINT *counts, UINT n, const QRectF &visible);

@@ -66,7 +66,7 @@ bool CBitmap::CreateCompatibleBitmap(CDC *, int w, int h)
 
 bool CBitmap::LoadBitmapW(UINT id)
 {
-    m_hObject = LoadImageW(nullptr, reinterpret_cast<const wchar_t *>(std::uintptr_t{id}), 0, 0, 0, 0);
+    m_hObject = id > 0xFFFF ? nullptr : LoadImageW(nullptr, MAKEINTRESOURCEW(int(id)), 0, 0, 0, 0);
     return true;
 }
 

@@ -240,8 +240,10 @@ void KxQtPainterWrapper::setFontIndirect(const LOGFONTW *lf)
 
 void KxQtPainterWrapper::setClipRegion(POINT *pts, UINT *counts, UINT n)
 {
-    const QSize size = m_pDevice ? QSize(m_pDevice->width(), m_pDevice->height()) : QSize(0, 0);
-    *m_pClipRegion = clipRegion(pts, counts, n, size);
+    QRectF visible = m_pDevice ? QRectF(0, 0, m_pDevice->width(), m_pDevice->height()) : QRectF();
+    if (isDrawing())
+        visible = m_pPainter->combinedTransform().inverted().mapRect(visible);
+    *m_pClipRegion = clipRegion(pts, counts, n, visible);
     if (isDrawing())
         applyClipRegion();
 }

@@ -18,8 +18,11 @@ CWnd::CWnd(CWndPrivate &d, CWnd *pParent)
 
 static void deleteWrapper(CWnd *window)
 {
-    if (window && !CWndPrivate::of(window)->m_bPermanent)
-        delete window;
+    if (!window || CWndPrivate::of(window)->m_bPermanent)
+        return;
+    // Its destructor may bind another object to the handle, which is not to delete it again.
+    CWndPrivate::of(window)->m_bPermanent = true;
+    delete window;
 }
 
 CWnd::~CWnd()

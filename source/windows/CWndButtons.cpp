@@ -1,6 +1,10 @@
 #include "KxGuard.h"
 
 #include <QAbstractButton>
+#include <QPointer>
+
+#include <utility>
+#include <vector>
 
 static QAbstractButton *buttonOf(const CWnd *dialog, int nID)
 {
@@ -25,13 +29,15 @@ void CWnd::CheckRadioButton(int nIDFirst, int nIDLast, int nIDCheckButton)
 {
     if (!boundWidget(this))
         return;
+    // All of them before the first slot runs, which may delete a button or this object.
+    std::vector<std::pair<int, QPointer<QAbstractButton>>> buttons;
     const auto &children = d_ptr->m_mapChildren;
-    for (auto it = children.lower_bound(nIDFirst); it != children.end() && it->first <= nIDLast; ++it) {
-        auto *button = buttonOf(this, it->first);
-        if (!button)
-            continue;
-        button->setChecked(false);
-        if (it->first == nIDCheckButton)
+    for (auto it = children.lower_bound(nIDFirst); it != children.end() && it->first <= nIDLast; ++it)
+        buttons.emplace_back(it->first, buttonOf(this, it->first));
+    for (const auto &[id, button] : buttons) {
+        if (button)
+            button->setChecked(false);
+        if (button && id == nIDCheckButton)
             button->setChecked(true);
     }
 }

@@ -56,16 +56,18 @@ static void renewObject(HWND h, const QPointer<QWidget> &widget)
         return;
     d->m_pWidget = widget;
     d->m_pHandleWidget = widget;
+    d->m_bKeepWidget = true; // what it was to delete is gone
 }
 
 BOOL CWnd::SetDlgItem(int nID, HWND h)
 {
     if (!boundWidget(this))
         return withoutWidget<BOOL>(this);
+    if (d_ptr->m_mapChildren.emplace(nID, h).first->second != h)
+        return TRUE;
     const QPointer<QWidget> widget = guardedWidget(h);
+    d_ptr->m_mapChildWidgets[nID] = widget;
     renewObject(h, widget);
-    if (d_ptr->m_mapChildren.emplace(nID, h).first->second == h)
-        d_ptr->m_mapChildWidgets[nID] = widget;
     return TRUE;
 }
 

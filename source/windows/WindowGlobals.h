@@ -6,5 +6,5 @@
 
 class CWnd;
 
-/// The living wrappers that the library made. Many live until the process exits; the set outlives them all.
+/// The living wrappers that the library made. Many live until the process exits, and leak checkers find them here.
 std::set<CWnd *> &libraryWrappers();

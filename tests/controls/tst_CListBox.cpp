@@ -72,6 +72,7 @@ private Q_SLOTS:
     void selectStringWhileItemsGo();
     void selectStringWhileItemsCome();
     void selectStringWhileTheListGoes();
+    void addStringWhileItemsCome();
     void changesWhileTheListGoes();
 
     void itemData();
@@ -385,6 +386,16 @@ void tst_CListBox::selectStringWhileTheListGoes()
     QCOMPARE(control.GetCount(), 0);
 }
 
+void tst_CListBox::addStringWhileItemsCome()
+{
+    Scene scene;
+    connect(scene.widget.model(), &QAbstractItemModel::rowsInserted, &scene.widget, [&] {
+        if (scene.widget.count() < 7)
+            scene.widget.addItem(QStringLiteral("more"));
+    });
+    QCOMPARE(scene.control.AddString(L"y"), 6);
+}
+
 void tst_CListBox::changesWhileTheListGoes()
 {
     CListBox control;
@@ -392,7 +403,7 @@ void tst_CListBox::changesWhileTheListGoes()
     control.SetHandle(handleOf(widget));
     widget->addItem(QStringLiteral("x"));
     connect(widget->model(), &QAbstractItemModel::rowsInserted, this, [widget] { delete widget; });
-    QCOMPARE(control.AddString(L"y"), 1);
+    QCOMPARE(control.AddString(L"y"), LB_ERR);
     QCOMPARE(control.GetCount(), 0);
 
     CListBox other;

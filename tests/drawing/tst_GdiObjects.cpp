@@ -174,6 +174,10 @@ void tst_GdiObjects::deleteBitmap()
     QCOMPARE(HBITMAP(bitmap), handle);
     QVERIFY(gdi().bitmapImage(handle).isNull());
     QCOMPARE(bitmap.DeleteObject(), 0);
+    for (const UINT beyond : {0x10000U, 0xFFFFFFFFU}) {
+        QCOMPARE(bitmap.LoadBitmapW(beyond), true);
+        QCOMPARE(HBITMAP(bitmap), nullptr);
+    }
 }
 
 void tst_GdiObjects::deleteBitmapInUse()

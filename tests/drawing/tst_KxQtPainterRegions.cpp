@@ -68,6 +68,12 @@ private Q_SLOTS:
     void hugeClipRegionOfSlantedEdges();
     void clipRegionWithoutArea();
     void hugeClipRegionOfOtherDevices();
+    void farClipRegionOfMovedOrigin_data();
+    void farClipRegionOfMovedOrigin();
+    void clipRegionOfSmallScale();
+    void farClipRegionOfLaterDevice_data();
+    void farClipRegionOfLaterDevice();
+    void farClipRegionOfSlantedEdges();
 
     void pathModeDrawsNothing();
     void strokePath();
@@ -266,6 +272,71 @@ void tst_KxQtPainterRegions::hugeClipRegionOfOtherDevices()
     wide = canvas(6000, 2);
     fillWide({box(100000, 0, INT_MAX, INT_MAX)});
     QCOMPARE(wide, canvas(6000, 2));
+}
+
+void tst_KxQtPainterRegions::farClipRegionOfMovedOrigin_data()
+{
+    QTest::addColumn<int>("origin");
+    for (const int origin : {-20000, -6000, 6000, 20000})
+        QTest::addRow("%d", origin) << origin;
+}
+
+void tst_KxQtPainterRegions::farClipRegionOfMovedOrigin()
+{
+    QFETCH(int, origin);
+    const QImage seen = drawn([=](auto &p) {
+        p.Rotate(0, -origin, -origin);
+        setClip(p, {box(origin + 5, origin + 5, origin + 20, origin + 20)});
+        p.fillRect(CRect(origin - 10, origin - 10, origin + 60, origin + 60), red);
+    });
+    QCOMPARE(seen, redIn(QRegion(5, 5, 15, 15)));
+}
+
+void tst_KxQtPainterRegions::clipRegionOfSmallScale()
+{
+    const QImage seen = drawn([](auto &p) {
+        p.wrappedPainter()->scale(0.001, 0.001);
+        setClip(p, {box(0, 0, 20000, 20000)});
+        p.fillRect(CRect(0, 0, 40000, 40000), red);
+    });
+    QCOMPARE(seen, redIn(QRegion(0, 0, 20, 20)));
+}
+
+void tst_KxQtPainterRegions::farClipRegionOfLaterDevice_data()
+{
+    QTest::addColumn<bool>("smallDeviceBefore");
+    QTest::newRow("no device before") << false;
+    QTest::newRow("a small device before") << true;
+}
+
+void tst_KxQtPainterRegions::farClipRegionOfLaterDevice()
+{
+    QFETCH(bool, smallDeviceBefore);
+    QImage small = canvas();
+    QImage wide = canvas(9000, 2);
+    KxQtPainterWrapper painter;
+    if (smallDeviceBefore)
+        painter.setWrappedDevice(&small);
+    setClip(painter, {box(8000, 0, 8020, 2)});
+    painter.setWrappedDevice(&wide);
+    painter.beginDraw();
+    painter.fillRect(CRect(0, 0, 9000, 2), red);
+    painter.endDraw();
+    QCOMPARE(wide.pixel(7999, 1), canvas(9000, 2).pixel(7999, 1));
+    QCOMPARE(wide.pixel(8000, 1), 0xFFFF0000);
+    QCOMPARE(wide.pixel(8019, 0), 0xFFFF0000);
+    QCOMPARE(wide.pixel(8020, 0), canvas(9000, 2).pixel(8020, 0));
+}
+
+// Polygons that are not cut have Qt's own pixels on their edges.
+void tst_KxQtPainterRegions::farClipRegionOfSlantedEdges()
+{
+    const QPolygon polygon({{-8000, -7333}, {7999, 7777}, {7001, -7899}});
+    const QImage seen = drawn([&](auto &p) {
+        setClip(p, {polygon});
+        fillAll(p);
+    });
+    QCOMPARE(seen, redIn(QRegion(polygon, Qt::OddEvenFill)));
 }
 
 // Path mode with the star as the current path, in colours of its own.

@@ -73,6 +73,8 @@ private Q_SLOTS:
     void checkRadioButton();
     void checkRadioButtonSkipsOthers();
     void checkRadioButtonInExclusiveGroup();
+    void slotDestroysTheWindowOfTheRadioButtons();
+    void slotDestroysTheNextRadioButton();
     void getCheckedRadioButton_data();
     void getCheckedRadioButton();
 
@@ -230,6 +232,35 @@ void tst_CWndButtons::checkRadioButtonInExclusiveGroup()
     window.CheckRadioButton(1, 3, 3);
     QCOMPARE(window.GetCheckedRadioButton(1, 3), 3);
     QCOMPARE(window.IsDlgButtonChecked(2), 0u);
+}
+
+void tst_CWndButtons::slotDestroysTheWindowOfTheRadioButtons()
+{
+    auto window = std::make_unique<CWnd>();
+    QCheckBox boxes[3];
+    QWidget widget;
+    window->SetHandle(handleOf(&widget));
+    for (int i = 0; i < 3; ++i)
+        window->SetDlgItem(i, handleOf(&boxes[i]));
+    boxes[0].setChecked(true);
+    connect(&boxes[0], &QCheckBox::toggled, this, [&] { window.reset(); });
+
+    window->CheckRadioButton(0, 2, 2);
+    QVERIFY(!window);
+    QVERIFY(!boxes[0].isChecked());
+    QVERIFY(boxes[2].isChecked());
+}
+
+void tst_CWndButtons::slotDestroysTheNextRadioButton()
+{
+    Dialog dialog({1, 2, 3});
+    dialog.check({1, 2});
+    connect(dialog.boxes.at(1), &QCheckBox::toggled, this, [&] {
+        delete dialog.boxes.at(2);
+        dialog.boxes.erase(2);
+    });
+    dialog.window.CheckRadioButton(1, 3, 3);
+    QCOMPARE(dialog.checked(), QList<int>{3});
 }
 
 void tst_CWndButtons::getCheckedRadioButton_data()

@@ -20,6 +20,20 @@ public:
 };
 int CountedWnd::destroyed = 0;
 
+// Binds another object to its handle when it goes.
+class BindingWnd : public CountedWnd
+{
+public:
+    explicit BindingWnd(CWnd &other)
+        : m_other(other)
+    {
+    }
+    ~BindingWnd() override { m_other.SetHandle(m_hWnd); }
+
+private:
+    CWnd &m_other;
+};
+
 // Hands in private data of its own and tells when they go.
 struct OwnPrivate : CWndPrivate
 {
@@ -79,7 +93,10 @@ private Q_SLOTS:
     void widgetOfDetachedObjectDies();
     void addressOfDestroyedWidgetIsUsedAgain();
     void applicationObjectServesTheNewWidgetOfItsHandle();
+    void renewedObjectDoesNotOwnTheNewWidget();
+    void ignoredRegistrationRenewsNoObject();
     void detachedObjectStaysUnboundAtAReusedAddress();
+    void destructorThatBindsAnotherObject();
     void handleThatIsNoAddress_data();
     void handleThatIsNoAddress();
     void boundObjectOfReusedAddress();
@@ -331,6 +348,56 @@ void tst_CWndLifetime::applicationObjectServesTheNewWidgetOfItsHandle()
     QCOMPARE(window.GetDlgItem(1), &control);
     QCOMPARE(HWND(control), handle);
     QCOMPARE(control.GetWindowTextLengthW(), 3);
+}
+
+void tst_CWndLifetime::renewedObjectDoesNotOwnTheNewWidget()
+{
+    LabelPlace place;
+    const HWND handle = place.make(QStringLiteral("former"));
+    QWidget dialog;
+    CWnd window;
+    CWnd control;
+    window.SetHandle(handleOf(&dialog));
+    control.SetAutoDelete(true, true);
+    control.SetHandle(handle);
+    place.make(QStringLiteral("new"));
+    QVERIFY(!CWndPrivate::of(&control)->m_bKeepWidget);
+
+    window.SetDlgItem(1, handle);
+    QCOMPARE(HWND(control), handle);
+    QVERIFY(CWndPrivate::of(&control)->m_bKeepWidget);
+}
+
+void tst_CWndLifetime::ignoredRegistrationRenewsNoObject()
+{
+    LabelPlace place;
+    const HWND handle = place.make(QStringLiteral("former"));
+    QWidget dialog;
+    QLabel first;
+    CWnd window;
+    CWnd control;
+    window.SetHandle(handleOf(&dialog));
+    window.SetDlgItem(1, handleOf(&first));
+    control.SetHandle(handle);
+    place.make(QStringLiteral("new"));
+
+    QCOMPARE(window.SetDlgItem(1, handle), TRUE);
+    QVERIFY(!HWND(control));
+}
+
+void tst_CWndLifetime::destructorThatBindsAnotherObject()
+{
+    QWidget widget;
+    CWnd bound;
+    CWnd boundMeanwhile;
+    auto *object = new BindingWnd(boundMeanwhile);
+    object->SetAutoDelete(false, false);
+    object->SetHandle(handleOf(&widget));
+
+    bound.SetHandle(handleOf(&widget));
+    QCOMPARE(CountedWnd::destroyed, 1);
+    QCOMPARE(CWnd::FromHandle(handleOf(&widget)), &bound);
+    QCOMPARE(HWND(bound), handleOf(&widget));
 }
 
 void tst_CWndLifetime::detachedObjectStaysUnboundAtAReusedAddress()

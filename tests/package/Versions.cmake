@@ -1,0 +1,35 @@
+# cmake -P Versions.cmake <version file> <major> <minor> <patch>
+#
+# A program gets the version that it asks for, or a later one with the same SONAME.
+cmake_minimum_required(VERSION 3.25)
+set(file "${CMAKE_ARGV3}")
+set(major ${CMAKE_ARGV4})
+set(minor ${CMAKE_ARGV5})
+set(patch ${CMAKE_ARGV6})
+math(EXPR next_major "${major} + 1")
+math(EXPR next_minor "${minor} + 1")
+math(EXPR next_patch "${patch} + 1")
+
+# check(version accepted): whether the version file accepts a request for the version.
+function(check version accepted)
+    set(PACKAGE_FIND_VERSION ${version})
+    string(REGEX MATCH "^[0-9]+" PACKAGE_FIND_VERSION_MAJOR ${version})
+    include("${file}")
+    if(accepted AND NOT PACKAGE_VERSION_COMPATIBLE)
+        message(SEND_ERROR "a request for ${version} is refused")
+    elseif(NOT accepted AND PACKAGE_VERSION_COMPATIBLE)
+        message(SEND_ERROR "a request for ${version} is accepted")
+    endif()
+endfunction()
+
+check(${major} TRUE)
+check(${major}.0 TRUE)
+check(${major}.${minor} TRUE)
+check(${major}.${minor}.${patch} TRUE)
+check(${major}.${minor}.${next_patch} FALSE)
+check(${major}.${next_minor} FALSE)
+check(${next_major} FALSE)
+if(major GREATER 0)
+    math(EXPR last_major "${major} - 1")
+    check(${last_major}.0 FALSE)
+endif()
