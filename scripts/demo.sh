@@ -1,16 +1,16 @@
 #!/usr/bin/env bash
 # Builds the library and the examples, and runs one of them or all.
-# Usage: scripts/demo.sh [converter|gallery|settings|sketch] [--window | --tour DIR]
-#   converter, gallery, settings, sketch
-#                the example to run; without a name the gallery in a window, or the tours of all
+# Usage: scripts/demo.sh [stockroom|converter|gallery|settings|sketch] [--window | --tour DIR]
+#   stockroom, converter, gallery, settings, sketch
+#                the example to run; without a name stockroom in a window, or the tours of all
 #   --window     opens the window, or fails when there is no display
 #   --tour DIR   the examples drive themselves and leave their screenshots in DIR/<example>
 #   neither      --window when there is a display, else --tour build/demo
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
-examples=(gallery converter settings sketch)
+examples=(stockroom converter gallery settings sketch)
 case ${1:-} in
-    converter | gallery | settings | sketch)
+    stockroom | converter | gallery | settings | sketch)
         examples=("$1")
         shift
         ;;
@@ -25,7 +25,7 @@ case ${1:-} in
         tour_dir=$(realpath -m "$2")
         shift
         ;;
-    *) fail "unknown argument \"$1\": use converter, gallery, settings or sketch, then --window or --tour DIR" ;;
+    *) fail "unknown argument \"$1\": use stockroom, converter, gallery, settings or sketch, then --window or --tour DIR" ;;
 esac
 [[ $# -le 1 ]] || fail "unexpected argument \"$2\""
 [[ -n $tour_dir ]] || examples=("${examples[0]}")

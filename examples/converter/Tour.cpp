@@ -3,24 +3,14 @@
 #include "Converter.h"
 
 #include <QComboBox>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTemporaryDir>
-
-#include <cstdio>
 
 namespace {
-
-const QTemporaryDir &settingsFolder()
-{
-    static const QTemporaryDir folder;
-    return folder;
-}
 
 qintptr showConverter()
 {
@@ -28,15 +18,6 @@ qintptr showConverter()
 }
 
 } // namespace
-
-bool Tour::useOwnSettings()
-{
-    if (!settingsFolder().isValid()) {
-        std::fprintf(stderr, "converter: cannot make a temporary settings folder\n");
-        return false;
-    }
-    return qputenv("XDG_CONFIG_HOME", QFile::encodeName(settingsFolder().path()));
-}
 
 void Tour::walk()
 {
@@ -51,12 +32,12 @@ void Tour::converts()
     runModal({{"01-start", Window::Form, [this] { showsDefaults(); }, {}},
               {"02-inches", Window::Form, [this] { convertInches(); }, {}},
               {"03-bad-amount", Window::Form, [] { type("amount", QStringLiteral("12,5 or so")); }, convert},
-              {"04-refused", Window::MessageBox, [this] { showsRefusal(); }, [] { press(Qt::Key_Return); }},
+              {"04-refused", Window::Message, [this] { showsRefusal(); }, [] { press(Qt::Key_Return); }},
               {"05-corrected", Window::Form, [this] { correctAmount(); }, {}},
               {"06-temperature", Window::Form, [this] { convertTemperature(); }, clear},
-              {"07-question", Window::MessageBox, [this] { showsQuestion(); }, [] { press(Qt::Key_N); }},
+              {"07-question", Window::Message, [this] { showsQuestion(); }, [] { press(Qt::Key_N); }},
               {"08-kept", Window::Form, [this] { keepsHistory(); }, clear},
-              {"09-question", Window::MessageBox, [this] { showsQuestion(); }, [] { press(Qt::Key_Y); }},
+              {"09-question", Window::Message, [this] { showsQuestion(); }, [] { press(Qt::Key_Y); }},
               {"10-cleared", Window::Form, [this] { clearsHistory(); }, [] { press(Qt::Key_Escape); }}},
              showConverter, FALSE);
 }

@@ -8,9 +8,6 @@ class Tour : public GuidedTour
 public:
     using GuidedTour::GuidedTour;
 
-    /// Redirects the settings of this process to a temporary folder. Call it before the QApplication is made.
-    static bool useOwnSettings();
-
 protected:
     void walk() override;
 
