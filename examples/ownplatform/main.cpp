@@ -26,7 +26,7 @@ int main(int argc, char *argv[])
     std::printf("deleted: %s\n", picture.DeleteObject() ? "yes" : "no");
 
     CKdUiPathname path;
-    path.Parse(L"/Jobs/Part 7.DAT");
+    path.Parse(L"/Jobs/Panel 7.DAT");
     CString strPath;
     path.GetFullPath(strPath);
     std::printf("path: %ls\n", strPath.c_str());
