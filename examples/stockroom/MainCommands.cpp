@@ -5,6 +5,8 @@
 #include "StockFile.h"
 #include "Texts.h"
 
+#include <algorithm>
+
 static const int SAMPLE_SIZE = 50000;
 
 void CMainDlg::OnNew()
@@ -80,27 +82,34 @@ void CMainDlg::OnPaste()
     SetDlgItemText(IDC_STATUS, FormatText(IDS_PASTED, int(added.GetSize())));
 }
 
+// Stops at a file that cannot be read. What came before stays.
 void CMainDlg::OnImport()
 {
-    if (!AskPathName(TRUE))
+    CStringList pathNames;
+    if (!AskImportNames(pathNames))
         return;
     CStockFile file;
+    int nImported = 0;
+    int nSkipped = 0;
     BeginProgress();
-    const int nItems = file.Import(m_stock, m_strFile, &m_progress);
-    EndProgress();
-    if (nItems < 0) {
-        ShowMessage(file.m_strError, MB_ICONWARNING);
-        return;
+    for (POSITION pos = pathNames.GetHeadPosition(); pos && file.m_strError.IsEmpty();) {
+        nImported += std::max(file.Import(m_stock, pathNames.GetNext(pos), &m_progress), 0);
+        nSkipped += file.m_nSkipped;
     }
-    Refresh();
-    SetDlgItemText(IDC_STATUS, FormatText(IDS_IMPORTED, nItems));
-    if (file.m_nSkipped > 0)
-        ShowMessage(FormatText(IDS_SKIPPED, file.m_nSkipped), MB_ICONINFORMATION);
+    EndProgress();
+    if (nImported > 0 || file.m_strError.IsEmpty()) {
+        Refresh();
+        SetDlgItemText(IDC_STATUS, FormatText(IDS_IMPORTED, nImported));
+    }
+    if (nSkipped > 0)
+        ShowMessage(FormatText(IDS_SKIPPED, nSkipped), MB_ICONINFORMATION);
+    if (!file.m_strError.IsEmpty())
+        ShowMessage(file.m_strError, MB_ICONWARNING);
 }
 
 void CMainDlg::OnExport()
 {
-    if (m_stock.GetItemCount() == 0 || !AskPathName(FALSE))
+    if (m_stock.GetItemCount() == 0 || !AskExportName())
         return;
     CStockFile file;
     CPtrArray items;
@@ -127,10 +136,29 @@ void CMainDlg::OnSample()
     SetDlgItemText(IDC_STATUS, FormatText(IDS_SAMPLE_MADE, m_stock.GetItemCount()));
 }
 
-BOOL CMainDlg::AskPathName(BOOL bOpen)
+// One file or several.
+BOOL CMainDlg::AskImportNames(CStringList &pathNames)
 {
-    CFileDialog dlg(bOpen, STOCK_FILE_EXTENSION, m_strFile, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
-                    LoadText(IDS_FILE_FILTER), this);
+    const CString strFilter = LoadText(IDS_IMPORT_FILTER);
+    const CString strTitle = LoadText(IDS_IMPORT_TITLE);
+    KxQtFileDialog dlg(TRUE, STOCK_FILE_EXTENSION, nullptr, OFN_ALLOWMULTISELECT, nullptr, this);
+    OPENFILENAME &ofn = dlg.GetOFN();
+    ofn.lpstrTitle = strTitle;
+    ofn.lpstrFilter = strFilter;
+    ofn.lpstrInitialDir = m_strFile; // its folder is shown
+    ofn.lpstrFile = m_strFile.GetBuffer(0);
+    if (dlg.DoModal() != IDOK)
+        return FALSE;
+    m_strFile = dlg.GetPathName();
+    for (POSITION pos = dlg.GetStartPosition(); pos;)
+        pathNames.AddTail(dlg.GetNextPathName(pos));
+    return TRUE;
+}
+
+BOOL CMainDlg::AskExportName()
+{
+    CFileDialog dlg(FALSE, STOCK_FILE_EXTENSION, m_strFile, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                    LoadText(IDS_EXPORT_FILTER), this);
     if (dlg.DoModal() != IDOK)
         return FALSE;
     m_strFile = dlg.GetPathName();

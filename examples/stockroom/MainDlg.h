@@ -71,7 +71,8 @@ private:
     CItemList *GetSelectedItems(CPtrArray &items);
     void SelectItem(const CStockItem *pItem);
 
-    BOOL AskPathName(BOOL bOpen);
+    BOOL AskImportNames(CStringList &pathNames);
+    BOOL AskExportName();
     void BeginProgress();
     void EndProgress();
     int ShowMessage(const CString &strText, UINT nType);

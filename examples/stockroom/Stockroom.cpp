@@ -3,6 +3,8 @@
 #include "MainDlg.h"
 #include "MainForm.h"
 
+#include <QDir>
+
 #include <algorithm>
 
 static const TCHAR SECTION[] = _T("Stockroom");
@@ -43,6 +45,8 @@ void CStockroomApp::Load(CMainDlg &dlg, MainForm &form)
     dlg.m_strRoom = ReadText(_T("Room"));
     dlg.m_strSearch = ReadText(_T("Search"));
     dlg.m_strFile = ReadText(_T("File"));
+    if (dlg.m_strFile.IsEmpty())
+        dlg.m_strFile = CString(QDir::homePath().toStdWString()) + _T("/stock.stk");
     LoadSearches(dlg.m_searches);
     form.setLayoutSizes(GetProfileInt(SECTION, _T("Width"), 0), GetProfileInt(SECTION, _T("Height"), 0),
                         GetProfileInt(SECTION, _T("TreeWidth"), 0));
