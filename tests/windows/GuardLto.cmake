@@ -9,6 +9,7 @@ get_target_property(library_directory KxMFCWrapper SOURCE_DIR)
 list(TRANSFORM library_sources PREPEND "${library_directory}/" REGEX "^[^/]")
 
 kx_add_test(tst_GuardLto SOURCES tst_Guard.cpp ${library_sources} LIBRARIES Kx::Platform Qt5::Widgets)
+set_target_properties(tst_GuardLto PROPERTIES AUTOMOC ON)
 # The library's sources are in the compile commands already; the static analysis would look at each twice.
 set_target_properties(tst_GuardLto PROPERTIES EXPORT_COMPILE_COMMANDS OFF)
 target_include_directories(tst_GuardLto PRIVATE ${PROJECT_SOURCE_DIR}/include ${library_directory})
