@@ -69,11 +69,6 @@ private Q_SLOTS:
     void findString();
     void selectString_data();
     void selectString();
-    void selectStringWhileItemsGo();
-    void selectStringWhileItemsCome();
-    void selectStringWhileTheListGoes();
-    void addStringWhileItemsCome();
-    void changesWhileTheListGoes();
 
     void itemData();
     void outOfRange_data();
@@ -349,70 +344,6 @@ void tst_CListBox::selectString()
         QCOMPARE(watch.emitted().count(rowChange()), changes);
         QCOMPARE(watch.isUntouched(), changes == 0);
     }
-}
-
-void tst_CListBox::selectStringWhileItemsGo()
-{
-    BoundControl<CListBox, QListWidget> list;
-    list.widget.addItems({QStringLiteral("x"), QStringLiteral("x"), QStringLiteral("x")});
-    connect(&list.widget, &QListWidget::currentRowChanged, this, [&list](int row) {
-        if (row == 1)
-            list.widget.clear();
-    });
-    QCOMPARE(list.control.SelectString(-1, L"x"), 0);
-    QCOMPARE(list.widget.count(), 0);
-}
-
-void tst_CListBox::selectStringWhileItemsCome()
-{
-    BoundControl<CListBox, QListWidget> list;
-    list.widget.addItems({QStringLiteral("x"), QStringLiteral("x")});
-    connect(&list.widget, &QListWidget::currentRowChanged, this,
-            [&list] { list.widget.addItem(QStringLiteral("x")); });
-    QCOMPARE(list.control.SelectString(-1, L"x"), 0);
-    QCOMPARE(list.widget.currentRow(), 1);
-    QCOMPARE(list.widget.count(), 4);
-}
-
-void tst_CListBox::selectStringWhileTheListGoes()
-{
-    auto *widget = new QListWidget;
-    widget->addItems({QStringLiteral("x"), QStringLiteral("x")});
-    CListBox control;
-    control.SetHandle(handleOf(widget));
-    // The last signal of a change, so that Qt itself is done with the list.
-    connect(widget, &QListWidget::currentRowChanged, this, [widget] { delete widget; });
-    QCOMPARE(control.SelectString(-1, L"x"), 0);
-    QCOMPARE(control.GetCount(), 0);
-}
-
-void tst_CListBox::addStringWhileItemsCome()
-{
-    Scene scene;
-    connect(scene.widget.model(), &QAbstractItemModel::rowsInserted, &scene.widget, [&] {
-        if (scene.widget.count() < 7)
-            scene.widget.addItem(QStringLiteral("more"));
-    });
-    QCOMPARE(scene.control.AddString(L"y"), 6);
-}
-
-void tst_CListBox::changesWhileTheListGoes()
-{
-    CListBox control;
-    auto *widget = new QListWidget;
-    control.SetHandle(handleOf(widget));
-    widget->addItem(QStringLiteral("x"));
-    connect(widget->model(), &QAbstractItemModel::rowsInserted, this, [widget] { delete widget; });
-    QCOMPARE(control.AddString(L"y"), LB_ERR);
-    QCOMPARE(control.GetCount(), 0);
-
-    CListBox other;
-    widget = new QListWidget;
-    other.SetHandle(handleOf(widget));
-    widget->addItem(QStringLiteral("x"));
-    connect(widget->model(), &QAbstractItemModel::rowsRemoved, this, [widget] { delete widget; });
-    QCOMPARE(other.DeleteString(0), 0);
-    QCOMPARE(other.GetCount(), 0);
 }
 
 void tst_CListBox::itemData()
